@@ -1,0 +1,49 @@
+# Flags and helpers shared by every target of the project.
+
+find_program(CCACHE_PROGRAM ccache)
+if(CCACHE_PROGRAM AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE_PROGRAM})
+endif()
+
+add_library(quorix_flags INTERFACE)
+target_compile_options(quorix_flags INTERFACE
+  -Wall -Wextra -Wpedantic -Wconversion
+  # Contraction to fused multiply-add would change results.
+  -ffp-contract=off
+  $<$<BOOL:${QUORIX_WERROR}>:-Werror>)
+target_include_directories(quorix_flags INTERFACE ${PROJECT_SOURCE_DIR}/src)
+if(QUORIX_SANITIZE)
+  target_compile_options(quorix_flags INTERFACE -fsanitize=${QUORIX_SANITIZE} -fno-sanitize-recover=all
+    -fno-omit-frame-pointer)
+  target_link_options(quorix_flags INTERFACE -fsanitize=${QUORIX_SANITIZE})
+endif()
+if(QUORIX_COVERAGE)
+  target_compile_options(quorix_flags INTERFACE --coverage)
+  target_link_options(quorix_flags INTERFACE --coverage)
+endif()
+
+# quorix_precompile(TARGET HEADER...): precompiled headers that work together with ccache.
+function(quorix_precompile target)
+  target_precompile_headers(${target} PRIVATE ${ARGN})
+  if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+    target_compile_options(${target} PRIVATE "SHELL:-Xclang -fno-pch-timestamp")
+  else()
+    target_compile_options(${target} PRIVATE -fpch-preprocess)
+  endif()
+endfunction()
+
+# quorix_add_tests(NAME SOURCE...): one GoogleTest program, run as one test. Link more with target_link_libraries.
+function(quorix_add_tests name)
+  add_executable(${name} ${ARGN})
+  target_link_libraries(${name} PRIVATE quorix_core quorix_test_support GTest::gmock GTest::gtest_main)
+  add_test(NAME ${name} COMMAND ${name})
+  set_tests_properties(${name} PROPERTIES TIMEOUT 300 ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
+endfunction()
+
+# quorix_add_fuzzer(NAME SOURCE...): a libFuzzer program; its corpus is fuzz/corpus/NAME.
+function(quorix_add_fuzzer name)
+  add_executable(${name} ${ARGN})
+  target_link_libraries(${name} PRIVATE quorix_core quorix_flags)
+  target_compile_options(${name} PRIVATE -fsanitize=fuzzer)
+  target_link_options(${name} PRIVATE -fsanitize=fuzzer)
+endfunction()
