@@ -25,7 +25,8 @@ struct ResultSettings {
 
 struct ResultText {
     std::u16string text;
-    /// The format that the status line shows with it: SCI for complex numbers and exponent form, else the asked one.
+    /// The format that the status line shows with it: SCI for complex numbers and exponent form, else the
+    /// asked one.
     std::int32_t formatId = FORMAT_NORM;
 };
 

@@ -1,5 +1,7 @@
 #include "frontends/engine_text.h"
 
+#include <algorithm>
+
 #include "engine/number_locale.h"
 #include "frontends/display_symbols.h"
 

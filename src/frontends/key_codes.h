@@ -177,22 +177,17 @@ enum KeyCode : std::int32_t {
 /// Value of a digit key ("0" to "9", "A" to "F"), or -1.
 constexpr int DigitOf(std::int32_t code) {
     switch (code) {
-        case KEY_0:
-            return 0;
+        case KEY_0: return 0;
         case KEY_1:
         case KEY_2:
-        case KEY_3:
-            return code - KEY_1 + 1;
+        case KEY_3: return code - KEY_1 + 1;
         case KEY_4:
         case KEY_5:
-        case KEY_6:
-            return code - KEY_4 + 4;
+        case KEY_6: return code - KEY_4 + 4;
         case KEY_7:
         case KEY_8:
-        case KEY_9:
-            return code - KEY_7 + 7;
-        default:
-            return code >= KEY_HEX_A && code <= KEY_HEX_F ? code - KEY_HEX_A + 10 : -1;
+        case KEY_9: return code - KEY_7 + 7;
+        default: return code >= KEY_HEX_A && code <= KEY_HEX_F ? code - KEY_HEX_A + 10 : -1;
     }
 }
 

@@ -133,14 +133,10 @@ Rect CellRect(Orientation orientation, PanelCell cell) {
 int CapRowOf(PanelCell cell) {
     if (cell.panel == Panel::upper) {
         switch (cell.cell) {
-            case CELL_CHOOSER:
-                return CAP_CHOOSER;
-            case CELL_SHIFT:
-                return CAP_SHIFT;
-            case CELL_MENU:
-                return CAP_MENU;
-            default:
-                return CAP_FUNCTION;
+            case CELL_CHOOSER: return CAP_CHOOSER;
+            case CELL_SHIFT: return CAP_SHIFT;
+            case CELL_MENU: return CAP_MENU;
+            default: return CAP_FUNCTION;
         }
     }
     if (cell.cell == KEY_CLEAR) {

@@ -1,5 +1,7 @@
 #include "frontends/led_display.h"
 
+#include <algorithm>
+
 #include "engine/calc_context.h"
 #include "engine/key_engine.h"
 #include "engine/number_locale.h"
@@ -96,42 +98,25 @@ void CLedDisplay::Key(std::int32_t code) {
 
 void CLedDisplay::CommonKey(std::int32_t code) {
     switch (code) {
-        case KEY_BASE:
-            base_ = NextOf(base_, RADIX_BIN, RADIX_HEX);
-            break;
+        case KEY_BASE: base_ = NextOf(base_, RADIX_BIN, RADIX_HEX); break;
         case KEY_BIN:
         case KEY_OCT:
         case KEY_DEC:
-        case KEY_HEX:
-            base_ = code;
-            break;
-        case KEY_ANGLE:
-            angle_ = NextOf(angle_, ANGLE_DEG, ANGLE_GRAD);
-            break;
+        case KEY_HEX: base_ = code; break;
+        case KEY_ANGLE: angle_ = NextOf(angle_, ANGLE_DEG, ANGLE_GRAD); break;
         case KEY_DEG:
         case KEY_RAD:
-        case KEY_GRAD:
-            angle_ = code;
-            break;
-        case KEY_FORMAT:
-            format_ = NextFormat(format_);
-            break;
+        case KEY_GRAD: angle_ = code; break;
+        case KEY_FORMAT: format_ = NextFormat(format_); break;
         case KEY_FIX:
         case KEY_NORM:
         case KEY_SCI:
-        case KEY_FRAC:
-            format_ = code;
-            break;
-        case KEY_WORD_SIZE:
-            wordSize_ = NextOf(wordSize_, WORD_8, WORD_32);
-            break;
+        case KEY_FRAC: format_ = code; break;
+        case KEY_WORD_SIZE: wordSize_ = NextOf(wordSize_, WORD_8, WORD_32); break;
         case KEY_8_BIT:
         case KEY_16_BIT:
-        case KEY_32_BIT:
-            wordSize_ = code;
-            break;
-        default:
-            return;
+        case KEY_32_BIT: wordSize_ = code; break;
+        default: return;
     }
     if (!settings_.IsStringMode() && (code == KEY_BASE || code == KEY_WORD_SIZE)) {
         ApplyToEngine();  // the padding of a radix text reads the engine's word size

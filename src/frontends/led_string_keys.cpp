@@ -17,40 +17,24 @@ constexpr int kWideStep = 10;
 
 bool CLedDisplay::LineKey(std::int32_t code) {
     switch (code) {
-        case KEY_NEXT_LINE:
-            line_ = (line_ + 1) % kLineCount;
-            return true;
-        case KEY_PREVIOUS_LINE:
-            line_ = (line_ + kLineCount - 1) % kLineCount;
-            return true;
+        case KEY_NEXT_LINE: line_ = (line_ + 1) % kLineCount; return true;
+        case KEY_PREVIOUS_LINE: line_ = (line_ + kLineCount - 1) % kLineCount; return true;
         case KEY_LINE_1:
         case KEY_LINE_2:
         case KEY_LINE_3:
         case KEY_LINE_4:
-        case KEY_LINE_5:
-            line_ = code - KEY_LINE_1;
-            return true;
-        default:
-            return false;
+        case KEY_LINE_5: line_ = code - KEY_LINE_1; return true;
+        default: return false;
     }
 }
 
 bool CLedDisplay::CursorKey(std::int32_t code) {
     switch (code) {
-        case KEY_LEFT:
-            Line().MoveLeft(1);
-            return true;
-        case KEY_RIGHT:
-            Line().MoveRight(1);
-            return true;
-        case KEY_LEFT_10:
-            Line().MoveLeft(kWideStep);
-            return true;
-        case KEY_RIGHT_10:
-            Line().MoveRight(kWideStep);
-            return true;
-        default:
-            return false;
+        case KEY_LEFT: Line().MoveLeft(1); return true;
+        case KEY_RIGHT: Line().MoveRight(1); return true;
+        case KEY_LEFT_10: Line().MoveLeft(kWideStep); return true;
+        case KEY_RIGHT_10: Line().MoveRight(kWideStep); return true;
+        default: return false;
     }
 }
 
@@ -119,24 +103,12 @@ void CLedDisplay::StringKey(std::int32_t code) {
         return;
     }
     switch (code) {
-        case KEY_CLEAR:
-            ClearLine();
-            return;
-        case KEY_DELETE:
-            Line().DeleteToken(Line().Cursor());
-            return;
-        case KEY_STORE:
-            StoreStringResult();
-            return;
-        case KEY_RECALL:
-            InsertText(CurrentMemory(), false);
-            return;
-        case KEY_EQUALS:
-            EqualsInString();
-            return;
-        default:
-            InsertTokensOf(code);
-            return;
+        case KEY_CLEAR: ClearLine(); return;
+        case KEY_DELETE: Line().DeleteToken(Line().Cursor()); return;
+        case KEY_STORE: StoreStringResult(); return;
+        case KEY_RECALL: InsertText(CurrentMemory(), false); return;
+        case KEY_EQUALS: EqualsInString(); return;
+        default: InsertTokensOf(code); return;
     }
 }
 

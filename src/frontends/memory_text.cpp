@@ -1,5 +1,7 @@
 #include "frontends/memory_text.h"
 
+#include <algorithm>
+
 #include "engine/calc_context.h"
 #include "engine/evaluate.h"
 #include "engine/format_value.h"

@@ -4,6 +4,7 @@
 
 #include "engine/identifiers.h"
 #include "frontends/categories.h"
+#include "frontends/display_symbols.h"
 #include "frontends/key_panel.h"
 
 namespace quorix {
@@ -57,14 +58,10 @@ PanelAction BaseConversionAction(int cell, bool orange, std::int32_t radixId) {
 
 PanelAction StatisticsAction(int cell, bool orange) {
     switch (cell) {
-        case 2:
-            return Command(PanelCommand::statisticsKeyboard);
-        case 3:
-            return Command(PanelCommand::statisticsSummary);
-        case 4:
-            return Key(KEY_N);
-        default:
-            return Key(cell + (orange ? 89 : 82));
+        case 2: return Command(PanelCommand::statisticsKeyboard);
+        case 3: return Command(PanelCommand::statisticsSummary);
+        case 4: return Key(KEY_N);
+        default: return Key(cell + (orange ? 89 : 82));
     }
 }
 
@@ -74,14 +71,10 @@ PanelAction MatrixAction(int cell) {
 
 PanelAction FinanceAction(int cell) {
     switch (cell) {
-        case 1:
-            return Command(PanelCommand::timeValueDialog);
-        case 2:
-            return Command(PanelCommand::loanCalculator);
-        case 3:
-            return Command(PanelCommand::mortgageCalculator);
-        default:
-            return Key(cell + 107);
+        case 1: return Command(PanelCommand::timeValueDialog);
+        case 2: return Command(PanelCommand::loanCalculator);
+        case 3: return Command(PanelCommand::mortgageCalculator);
+        default: return Key(cell + 107);
     }
 }
 
@@ -102,18 +95,12 @@ PanelAction UpperAction(int category, int cell, bool orange, std::int32_t radixI
         return Key(KEY_SHIFT);
     }
     switch (category) {
-        case CATEGORY_ARITHMETIC:
-            return ArithmeticAction(cell, orange);
-        case CATEGORY_TRIGONOMETRY:
-            return TrigonometryAction(cell, orange);
-        case CATEGORY_BASE_CONVERSION:
-            return BaseConversionAction(cell, orange, radixId);
-        case CATEGORY_STATISTICS:
-            return StatisticsAction(cell, orange);
-        case CATEGORY_MATRIX:
-            return MatrixAction(cell);
-        default:
-            return FinanceAction(cell);
+        case CATEGORY_ARITHMETIC: return ArithmeticAction(cell, orange);
+        case CATEGORY_TRIGONOMETRY: return TrigonometryAction(cell, orange);
+        case CATEGORY_BASE_CONVERSION: return BaseConversionAction(cell, orange, radixId);
+        case CATEGORY_STATISTICS: return StatisticsAction(cell, orange);
+        case CATEGORY_MATRIX: return MatrixAction(cell);
+        default: return FinanceAction(cell);
     }
 }
 
@@ -136,18 +123,12 @@ std::int32_t KeyOfCharacter(char16_t character, std::int32_t radixId) {
         return static_cast<std::int32_t>(index);
     }
     switch (character) {
-        case u'(':
-            return KEY_OPEN;
-        case u')':
-            return KEY_CLOSE;
-        case u',':
-            return KEY_COMMA;
-        case u'x':
-            return KEY_X;
-        case u'^':
-            return KEY_POWER;
-        default:
-            return KEY_NONE;
+        case u'(': return KEY_OPEN;
+        case u')': return KEY_CLOSE;
+        case u',': return KEY_COMMA;
+        case u'x': return KEY_X;
+        case u'^': return KEY_POWER;
+        default: return KEY_NONE;
     }
 }
 
