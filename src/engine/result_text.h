@@ -1,9 +1,10 @@
 #pragma once
 
-// The text of a result as the display's result row and the console show it.
+// The text of a result as the user reads it.
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 #include "engine/calc_value.h"
 #include "engine/format_value.h"
@@ -15,22 +16,25 @@ struct ResultSettings {
     std::int32_t radixId = RADIX_DEC;
     std::int32_t wordId = WORD_8;
     std::int32_t formatId = FORMAT_NORM;
+    /// Decimals of FORMAT_FIX.
     int fixDigits = 4;
-    /// Index of the greatest denominator of FRAC.
+    /// Index 0, 1, 2 of the greatest denominator of FORMAT_FRAC.
     std::uint32_t fractionLimit = 0;
-    std::u16string numberLocale = u"English (US)";
-    /// Digits of the conversion of real numbers behind the point.
+    std::u16string_view numberLocale = u"English (US)";
+    /// Digits behind the point of the conversion, 0 to 99.
     int digits = kResultDigits;
 };
 
 struct ResultText {
     std::u16string text;
-    /// The format that the status line shows with it: SCI for complex numbers and exponent form, else the
-    /// asked one.
+    /// The format that the status line shows: the one asked for, or FORMAT_SCI where the result needs an
+    /// exponent.
     std::int32_t formatId = FORMAT_NORM;
 };
 
-/// Composes a number's text: format, fraction, complex parts, radix, separators. A matrix has no text here.
+/// The text of an evaluation's result. While calcError is set it is that error's message. A complex number is
+/// shown in radix 10 as two parts in exponent form with four decimals: "1.0000E0+2.0000E0i", "i". A matrix
+/// has no text of one row and gives an empty one.
 ResultText ComposeResult(const CalcValue& value, const ResultSettings& settings);
 
 }  // namespace quorix
