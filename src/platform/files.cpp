@@ -1,0 +1,95 @@
+#include "platform/files.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <fstream>
+#include <string>
+#include <system_error>
+
+namespace quorix {
+
+namespace {
+
+/// A POSIX descriptor that closes itself.
+class Descriptor {
+  public:
+    explicit Descriptor(int value) : value_(value) {}
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+    ~Descriptor() {
+        if (value_ >= 0) {
+            ::close(value_);
+        }
+    }
+    [[nodiscard]] int Get() const { return value_; }
+    [[nodiscard]] bool IsOpen() const { return value_ >= 0; }
+
+  private:
+    int value_;
+};
+
+bool WriteAll(int descriptor, std::span<const std::uint8_t> bytes) {
+    while (!bytes.empty()) {
+        const ssize_t written = ::write(descriptor, bytes.data(), bytes.size());
+        if (written <= 0) {
+            return false;
+        }
+        bytes = bytes.subspan(static_cast<std::size_t>(written));
+    }
+    // A rename may reach the disk before the data does; only a flushed file may replace the old one.
+    return ::fsync(descriptor) == 0;
+}
+
+}  // namespace
+
+std::optional<std::vector<std::uint8_t>> ReadWholeFile(const std::filesystem::path& path) {
+    std::error_code error;
+    if (!std::filesystem::is_regular_file(path, error)) {
+        return std::nullopt;
+    }
+    const std::uintmax_t size = std::filesystem::file_size(path, error);
+    if (error || size > kLargestFile) {
+        return std::nullopt;
+    }
+    std::ifstream stream(path, std::ios::binary);
+    std::vector<std::uint8_t> bytes(static_cast<std::size_t>(size));
+    if (!stream.read(reinterpret_cast<char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()))) {
+        return std::nullopt;
+    }
+    return bytes;
+}
+
+bool WriteFileAtomically(const std::filesystem::path& path, std::span<const std::uint8_t> bytes) {
+    // The process number keeps two programs that share a folder out of each other's temporary file.
+    std::filesystem::path temporary = path;
+    temporary += "." + std::to_string(::getpid()) + ".tmp";
+    std::error_code error;
+    {
+        const Descriptor file(::open(temporary.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644));
+        if (!file.IsOpen()) {
+            return false;
+        }
+        if (!WriteAll(file.Get(), bytes)) {
+            std::filesystem::remove(temporary, error);
+            return false;
+        }
+    }
+    std::filesystem::rename(temporary, path, error);
+    if (error) {
+        std::error_code ignored;
+        std::filesystem::remove(temporary, ignored);
+        return false;
+    }
+    return true;
+}
+
+bool KeepDamagedFile(const std::filesystem::path& path) {
+    std::filesystem::path kept = path;
+    kept += ".bad";
+    std::error_code error;
+    std::filesystem::rename(path, kept, error);
+    return !error;
+}
+
+}  // namespace quorix
