@@ -340,7 +340,7 @@ TEST_F(ReferenceTest, CompiledTokensGiveWhatThePostfixTextGives) {
     EXPECT_GT(CompareWalks<QComplex>([&bound](std::u16string_view text, int radix) {
                   return EvalToComplex(text, u"X", &bound, radix);
               }),
-              9000);
+              8000);
     EXPECT_GT(CompareWalks<DComplex>(
                   [](std::u16string_view text, int radix) { return EvalToDouble(text, u"X", 0.7, radix); }),
               6000);
