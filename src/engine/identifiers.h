@@ -1,6 +1,7 @@
 #pragma once
 
-// Small integers by which interface and engine name their settings. They are stored in files and are key codes too.
+// Small integers by which interface and engine name their settings. They are stored in files and are key
+// codes too.
 
 #include <cstdint>
 

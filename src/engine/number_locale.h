@@ -16,11 +16,12 @@ struct NumberSigns {
     char16_t thousands;
 };
 
-/// "European" is decimal U+00B8, thousands "."; "English (US)" and "English (UK)" the reverse. Unknown names are US.
+/// "European" is decimal U+00B8, thousands "."; "English (US)" and "English (UK)" the reverse. Unknown names
+/// are US.
 NumberSigns SignsOf(std::u16string_view numberLocale);
 
-/// Groups the digits left of the decimal point of a decimal number text and puts the locale's signs in; a text that
-/// holds a word (a message) stays as it is. `text` has the engine's "." as decimal mark.
+/// Groups the digits left of the decimal point of a decimal number text and puts the locale's signs in; a
+/// text that holds a word (a message) stays as it is. `text` has the engine's "." as decimal mark.
 void ApplySeparators(std::u16string& text, std::u16string_view numberLocale, std::int32_t radixId);
 
 }  // namespace quorix

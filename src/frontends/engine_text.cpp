@@ -1,5 +1,7 @@
 #include "frontends/engine_text.h"
 
+#include <algorithm>
+
 #include "engine/number_locale.h"
 #include "frontends/display_symbols.h"
 
@@ -21,10 +23,18 @@ constexpr Replacement kNames[] = {
     {u"\u2211", u"fnSum"}, {u"\u0192", u"fnEval"},  {u"[ans]", u"[VRE]"},
 };
 
-constexpr bool IsDigit(char16_t c) { return c >= u'0' && c <= u'9'; }
-constexpr bool IsHexLetter(char16_t c) { return c >= u'A' && c <= u'F'; }
-constexpr bool IsLetter(char16_t c) { return (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z'); }
-constexpr bool IsPoint(char16_t c) { return c == u'.' || c == kDisplayComma; }
+constexpr bool IsDigit(char16_t c) {
+    return c >= u'0' && c <= u'9';
+}
+constexpr bool IsHexLetter(char16_t c) {
+    return c >= u'A' && c <= u'F';
+}
+constexpr bool IsLetter(char16_t c) {
+    return (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z');
+}
+constexpr bool IsPoint(char16_t c) {
+    return c == u'.' || c == kDisplayComma;
+}
 
 /// A point that no digit precedes gets a "0" before it: the engine would drop it.
 u16string WithLeadingZeros(u16string_view text) {
@@ -90,7 +100,9 @@ bool StartsFactorAfterDigit(char16_t next) {
            !IsDigit(next) && !IsHexLetter(next);
 }
 
-bool StartsFactorAfterParenthesis(char16_t next) { return kNoProductBefore.find(next) == u16string_view::npos; }
+bool StartsFactorAfterParenthesis(char16_t next) {
+    return kNoProductBefore.find(next) == u16string_view::npos;
+}
 
 /// Whether the i at `at` is the imaginary unit or the end of pi, and not a letter of another word.
 bool IsConstantI(u16string_view text, std::size_t at) {

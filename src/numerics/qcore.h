@@ -52,7 +52,8 @@ void qdiv(const QReal& divisor, const QReal& dividend, QReal& quotient);
 int qcmp(const QReal& a, const QReal& b);
 
 void ltoq(std::int32_t n, QReal& a);
-/// n = integer part, saturating at ±2147483647; fraction = fractional part, non-negative for |a| >= 1, a itself below.
+/// n = integer part, saturating at ±2147483647; fraction = fractional part, non-negative for |a| >= 1, a
+/// itself below.
 void qifrac(const QReal& a, std::int32_t& n, QReal& fraction);
 /// a = mantissa · 2^n with the mantissa's exponent word 16639 (magnitude in [1/2, 1)).
 void qfrexp(const QReal& a, std::int32_t& n, QReal& mantissa);
@@ -67,13 +68,13 @@ void etoq(double d, QReal& a);
 /// Round to nearest even; beyond the range the largest finite double with an overflow report.
 double qtoe(const QReal& a);
 
-/// Decimal text ("-12.5E+3", blanks skipped anywhere, at most 99 digits used) to number. Malformed text gives 0 and
-/// a debug line; result tells whether the text was well formed. Out of range sets the numeric flag.
+/// Decimal text ("-12.5E+3", blanks skipped anywhere, at most 99 digits used) to number. Malformed text gives
+/// 0 and a debug line; result tells whether the text was well formed. Out of range sets the numeric flag.
 bool asctoq(std::string_view text, QReal& a);
 /// Exponent form: sign or blank, digit, ".", n digits (0 to 99), "E" and the exponent: " 3.33E-1".
 std::string qtoasc(const QReal& a, int n);
-/// Positional form without trailing zeros; n + min(e, 0) digits behind the leading one, e the decimal exponent.
-/// For magnitudes below 10^n. First character is "-" or a blank.
+/// Positional form without trailing zeros; n + min(e, 0) digits behind the leading one, e the decimal
+/// exponent. For magnitudes below 10^n. First character is "-" or a blank.
 std::string qtoplain(const QReal& a, int n);
 
 void qcadd(const QComplex& a, const QComplex& b, QComplex& sum);

@@ -7,11 +7,12 @@
 
 namespace quorix {
 
-/// Extended-precision real: value = ±0.m · 2^(exponent - 16639), 336 mantissa bits (about 101 decimal digits).
+/// Extended-precision real: value = ±0.m · 2^(exponent - 16639), 336 mantissa bits (about 101 decimal
+/// digits).
 ///
-/// word 0: sign, 0 or 65535. word 1: biased exponent, 0 means zero. word 2: overflow word, 0 in a stored number.
-/// words 3 to 23: mantissa, most significant word first, top bit of word 3 set in a normalised number.
-/// There is no infinity and no not-a-number: overflow gives the largest finite pattern.
+/// word 0: sign, 0 or 65535. word 1: biased exponent, 0 means zero. word 2: overflow word, 0 in a stored
+/// number. words 3 to 23: mantissa, most significant word first, top bit of word 3 set in a normalised
+/// number. There is no infinity and no not-a-number: overflow gives the largest finite pattern.
 struct QReal {
     static constexpr std::size_t kWords = 24;
     static constexpr std::uint16_t kNegative = 0xFFFF;

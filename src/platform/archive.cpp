@@ -19,7 +19,9 @@ std::span<const std::uint8_t> ArchiveReader::Take(std::size_t count) {
     return taken;
 }
 
-std::uint8_t ArchiveReader::ReadU8() { return Take(1)[0]; }
+std::uint8_t ArchiveReader::ReadU8() {
+    return Take(1)[0];
+}
 
 std::uint32_t ArchiveReader::ReadU32() {
     const auto b = Take(4);

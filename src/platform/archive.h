@@ -1,8 +1,8 @@
 #pragma once
 
 // The archive form of the state files: primitive values one behind the other, no header, no version.
-//   u8; u32 little-endian; a string as FF FE FF, its length in characters (one byte below 255; else FF and 16 bits;
-//   else FF FF FF and 32 bits) and UTF-16 little-endian characters.
+//   u8; u32 little-endian; a string as FF FE FF, its length in characters (one byte below 255; else FF and 16
+//   bits; else FF FF FF and 32 bits) and UTF-16 little-endian characters.
 
 #include <cstddef>
 #include <cstdint>
@@ -20,7 +20,8 @@ class ArchiveException : public std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
-/// Reads primitives from bytes that the caller keeps alive. Every read is bounds-checked and throws ArchiveException.
+/// Reads primitives from bytes that the caller keeps alive. Every read is bounds-checked and throws
+/// ArchiveException.
 class ArchiveReader {
   public:
     explicit ArchiveReader(std::span<const std::uint8_t> bytes) : bytes_(bytes) {}

@@ -5,7 +5,8 @@
 
 namespace quorix {
 
-/// The desktop's text clipboard. Calls may take long when another program owns it, but handle no messages of ours.
+/// The desktop's text clipboard. Calls may take long when another program owns it, but handle no messages of
+/// ours.
 class Clipboard {
   public:
     virtual ~Clipboard() = default;

@@ -17,8 +17,8 @@ inline constexpr std::uintmax_t kLargestFile = 64U * 1024U * 1024U;
 /// The file's bytes; nothing when it is absent, no regular file, too large or unreadable.
 std::optional<std::vector<std::uint8_t>> ReadWholeFile(const std::filesystem::path& path);
 
-/// Writes to a temporary file in the same folder, flushes it to the disk and renames it over `path`, so that `path`
-/// holds either the old or the new content at every moment. False leaves the old file untouched.
+/// Writes to a temporary file in the same folder, flushes it to the disk and renames it over `path`, so that
+/// `path` holds either the old or the new content at every moment. False leaves the old file untouched.
 bool WriteFileAtomically(const std::filesystem::path& path, std::span<const std::uint8_t> bytes);
 
 /// Renames a damaged file to "NAME.bad" (an older one of that name is replaced). False when it cannot.

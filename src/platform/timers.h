@@ -2,8 +2,8 @@
 
 namespace quorix {
 
-/// Timers by number, owned by one window. A set timer fires again and again until it is killed; firing reaches the
-/// owner through its message loop, never before Set returns.
+/// Timers by number, owned by one window. A set timer fires again and again until it is killed; firing
+/// reaches the owner through its message loop, never before Set returns.
 class Timers {
   public:
     virtual ~Timers() = default;

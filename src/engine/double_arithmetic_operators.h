@@ -1,0 +1,17 @@
+#pragma once
+
+// The four operations of the double operator table.
+
+#include "engine/operator_table.h"
+#include "numerics/qreal.h"
+
+namespace quorix {
+
+void DoubleAdd(OperandStack<DComplex>& stack, std::int32_t base);
+/// Difference; with one operand above the base its negation.
+void DoubleSubtract(OperandStack<DComplex>& stack, std::int32_t base);
+void DoubleMultiply(OperandStack<DComplex>& stack, std::int32_t base);
+/// Quotient; a divisor of zero leaves -5 in calcError.
+void DoubleDivide(OperandStack<DComplex>& stack, std::int32_t base);
+
+}  // namespace quorix

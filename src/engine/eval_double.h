@@ -1,0 +1,18 @@
+#pragma once
+
+// The evaluator behind graphs, integrals and root searches: thousands of runs of one expression.
+
+#include <optional>
+#include <string_view>
+
+#include "numerics/qreal.h"
+
+namespace quorix {
+
+/// Value of an expression in doubles, or nothing with a code in calcError (which is returned at once when it
+/// is set on entry). Words other than boundName, "pi", "e" and "i" fail with -1: stored variables are not
+/// read. An expression that equals the one of the call before is not compiled again.
+std::optional<DComplex> EvalToDouble(std::u16string_view text, std::u16string_view boundName,
+                                     double boundValue, int radix);
+
+}  // namespace quorix

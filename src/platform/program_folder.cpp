@@ -1,0 +1,76 @@
+#include "platform/program_folder.h"
+
+#include <unistd.h>
+
+#include <cstdlib>
+#include <system_error>
+
+namespace quorix {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// What is copied into a user's folder: the shipped content, not the programs.
+constexpr std::string_view kSeededFolders[] = {"Interfaces", "Sounds", "Formulas", "fonts"};
+constexpr std::string_view kSeededEndings[] = {".dat", ".htm", ".mcr"};
+
+bool IsSeeded(const fs::directory_entry& entry) {
+    std::error_code error;
+    const std::string name = entry.path().filename().string();
+    if (entry.is_directory(error)) {
+        return std::find(std::begin(kSeededFolders), std::end(kSeededFolders), name) !=
+               std::end(kSeededFolders);
+    }
+    const std::string ending = entry.path().extension().string();
+    return std::find(std::begin(kSeededEndings), std::end(kSeededEndings), ending) !=
+           std::end(kSeededEndings);
+}
+
+/// Copies what is missing; what the user already has stays.
+void Seed(const fs::path& installed, const fs::path& folder) {
+    std::error_code error;
+    for (const fs::directory_entry& entry : fs::directory_iterator(installed, error)) {
+        if (IsSeeded(entry)) {
+            fs::copy(entry.path(), folder / entry.path().filename(),
+                     fs::copy_options::recursive | fs::copy_options::skip_existing, error);
+        }
+    }
+}
+
+bool IsWritable(const fs::path& folder) {
+    return ::access(folder.c_str(), W_OK | X_OK) == 0;
+}
+
+}  // namespace
+
+fs::path FindProgramFolder(const fs::path& installed, const fs::path& userFolder) {
+    if (IsWritable(installed) || userFolder.empty()) {
+        return installed;
+    }
+    std::error_code error;
+    fs::create_directories(userFolder, error);
+    if (!IsWritable(userFolder)) {
+        return installed;
+    }
+    Seed(installed, userFolder);
+    return userFolder;
+}
+
+fs::path UserDataFolder() {
+    if (const char* data = std::getenv("XDG_DATA_HOME"); data != nullptr && *data == '/') {
+        return fs::path(data) / "quorix";
+    }
+    if (const char* home = std::getenv("HOME"); home != nullptr && *home != '\0') {
+        return fs::path(home) / ".local" / "share" / "quorix";
+    }
+    return {};
+}
+
+fs::path ExecutableFolder() {
+    std::error_code error;
+    const fs::path executable = fs::read_symlink("/proc/self/exe", error);
+    return error ? fs::path() : executable.parent_path();
+}
+
+}  // namespace quorix
