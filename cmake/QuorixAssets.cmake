@@ -8,6 +8,9 @@ function(quorix_stage_assets target)
   endif()
   set(stamp ${CMAKE_CURRENT_BINARY_DIR}/${target}_assets.stamp)
   set(folder ${CMAKE_CURRENT_BINARY_DIR})
+  if(CMAKE_RUNTIME_OUTPUT_DIRECTORY)
+    set(folder ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
+  endif()
   add_custom_command(OUTPUT ${stamp}
     COMMAND ${CMAKE_COMMAND} -E copy_directory ${PROJECT_SOURCE_DIR}/assets ${folder}
     COMMAND ${CMAKE_COMMAND} -E make_directory ${folder}/fonts

@@ -1,3 +1,9 @@
-int main() {
-    return 0;
+#include <string_view>
+#include <vector>
+
+#include "console/console_main.h"
+
+int main(int argc, char** argv) {
+    const std::vector<std::string_view> arguments(argv + (argc > 0 ? 1 : 0), argv + argc);
+    return quorix::RunConsole(arguments);
 }

@@ -2,14 +2,15 @@
 
 #include <gtest/gtest.h>
 
-#include "temp_folder.h"
+#include "support/temporary_folder.h"
 
 namespace quorix {
 namespace {
 
 TEST(ResolvePath, FindsFilesWhateverTheirCaseAndSeparators) {
-    const testing::TempFolder folder;
-    const auto file = folder.Write("Interfaces/Default/LargeButtons.png", "x");
+    const testing::TemporaryFolder folder;
+    folder.Write("Interfaces/Default/LargeButtons.png", "x");
+    const auto file = folder / "Interfaces/Default/LargeButtons.png";
     for (const char16_t* name :
          {u"Interfaces\\Default\\LargeButtons.png", u"INTERFACES\\default\\largebuttons.PNG",
           u"interfaces/Default\\\\.\\LARGEBUTTONS.png", u"\\Interfaces\\Default\\LargeButtons.png"}) {
@@ -18,7 +19,7 @@ TEST(ResolvePath, FindsFilesWhateverTheirCaseAndSeparators) {
 }
 
 TEST(ResolvePath, PrefersTheExactNameAndElseTheFirstByName) {
-    const testing::TempFolder folder;
+    const testing::TemporaryFolder folder;
     folder.Write("readme", "1");
     folder.Write("README", "2");
     EXPECT_EQ(ResolvePath(folder.Path(), u"readme").filename(), "readme");
@@ -28,7 +29,7 @@ TEST(ResolvePath, PrefersTheExactNameAndElseTheFirstByName) {
 }
 
 TEST(ResolvePath, KeepsAFileStillToBeMadeAndRefusesToLeaveItsFolder) {
-    const testing::TempFolder folder;
+    const testing::TemporaryFolder folder;
     folder.Write("Sounds/a.wav", "x");
     EXPECT_EQ(ResolvePath(folder.Path(), u"sounds\\New.wav"), folder.Path() / "Sounds" / "New.wav");
     EXPECT_EQ(ResolvePath(folder.Path(), u""), folder.Path());

@@ -3,14 +3,20 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <span>
+#include <string_view>
+
 #include "platform/image.h"
 #include "platform/png_builder.h"
-#include "temp_folder.h"
+#include "support/temporary_folder.h"
 
 namespace quorix {
 namespace {
 
-using testing::BytesOf;
+std::span<const std::uint8_t> BytesOf(std::string_view text) {
+    return {reinterpret_cast<const std::uint8_t*>(text.data()), text.size()};
+}
+
 using ::testing::ElementsAre;
 using testing::PngBuilder;
 
@@ -143,15 +149,17 @@ TEST(PngLoader, AbsurdSizesAreRefusedBeforeTheyCostMemory) {
 }
 
 TEST(Image, TheFirstPixelIsTheBackgroundColourAndWhiteStandsForNone) {
-    const testing::TempFolder folder;
+    const testing::TemporaryFolder folder;
     PngBuilder png{.width = 2, .rows = {0x56, 0x6A, 0x8C, 0, 1, 2, 3, 255}};
     Image image;
     EXPECT_EQ(image.BackgroundColor(), kWhite);
     EXPECT_FALSE(image.Load(""));
-    EXPECT_TRUE(image.Load(folder.Write("a.png", png.Build())));
+    folder.Write("a.png", std::string_view(png.Build()));
+    EXPECT_TRUE(image.Load(folder / "a.png"));
     EXPECT_EQ(image.BackgroundColor(), 0x8C6A56U);
     EXPECT_EQ(image.Width(), 2);
-    EXPECT_FALSE(image.Load(folder.Write("b.png", png.Build().substr(0, 40))));
+    folder.Write("b.png", std::string_view(png.Build()).substr(0, 40));
+    EXPECT_FALSE(image.Load(folder / "b.png"));
     EXPECT_EQ(image.BackgroundColor(), kWhite);
     EXPECT_EQ(image.Height(), 0);
 }

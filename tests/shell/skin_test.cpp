@@ -2,14 +2,20 @@
 
 #include <gtest/gtest.h>
 
+#include <span>
+#include <string_view>
+
 #include "shell/colours.h"
-#include "temp_folder.h"
+#include "support/temporary_folder.h"
 
 namespace quorix {
 namespace {
 
-using testing::BytesOf;
-using testing::TempFolder;
+std::span<const std::uint8_t> BytesOf(std::string_view text) {
+    return {reinterpret_cast<const std::uint8_t*>(text.data()), text.size()};
+}
+
+using testing::TemporaryFolder;
 
 constexpr DeviceScreen kQvga{240, 320};
 constexpr DeviceScreen kVga{480, 640};
@@ -34,7 +40,7 @@ TEST(ScreenValue, MarksTheNameForAVgaScreen) {
 }
 
 TEST(Skin, FindSkinValueTakesTheFirstMatchAndReadsTheFileAfresh) {
-    const TempFolder folder;
+    const TemporaryFolder folder;
     folder.Write("Interfaces/Default/MIMEScroll.PNG", "x");
     folder.Write("Interfaces/default.inf",
                  "no value here\r\n = leading\r\nlogo= Default\\one.png \r\nLOGO = Default\\two.png\r\n"
@@ -55,7 +61,7 @@ TEST(Skin, FindSkinValueTakesTheFirstMatchAndReadsTheFileAfresh) {
 }
 
 TEST(Skin, LoadSkinPathsTakesTheLastMatchAndTheScreensOwnPictures) {
-    const TempFolder folder;
+    const TemporaryFolder folder;
     folder.Write(
         "Interfaces/default.inf",
         "LargeButtons = a.png\nLargeButtons = b.png\nLargeButtonsSquare = s.png\nLargeFonts = f.png\n"

@@ -418,7 +418,7 @@ double ToDouble(const QReal& a) {
     if (round && (sticky || (kept & 1))) ++kept;
     const std::uint64_t result =
         exponent > 0 ? (static_cast<std::uint64_t>(exponent - 1) << 52) + kept : kept;
-    if (result >= 0x7FFull << 52) {
+    if (exponent > 0x7FF || result >= 0x7FFull << 52) {
         mtherr("qtoe", NUMERIC_OVERFLOW);
         return std::bit_cast<double>(sign | 0x7FEFFFFFFFFFFFFF);
     }

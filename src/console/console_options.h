@@ -1,0 +1,40 @@
+#pragma once
+
+// The command line of quorix-calc.
+
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "engine/calc_context.h"
+#include "engine/result_text.h"
+
+namespace quorix {
+
+struct ConsoleOptions {
+    std::int32_t angleUnit = UNIT_DEGREES;
+    ResultSettings result;
+    /// UTF-8; none means to read lines.
+    std::optional<std::string> expression;
+    bool showHelp = false;
+    bool showVersion = false;
+};
+
+/// Options, or what is wrong with the command line.
+struct ParsedOptions {
+    ConsoleOptions options;
+    std::string error;
+};
+
+/// arguments: without the program's name. An argument is an option only when it begins with "--", so that
+/// "-3+5" is an expression; "--" ends the options. Values stand behind "=" or in the next argument. Several
+/// expression arguments are joined by blanks.
+ParsedOptions ParseOptions(std::span<const std::string_view> arguments);
+
+/// Text of --help.
+std::string_view HelpText();
+/// Text of --version.
+std::string_view VersionText();
+
+}  // namespace quorix

@@ -1,0 +1,90 @@
+#include "numerics/qcore.h"
+#include "numerics/range.h"
+#include "numerics/unpacked.h"
+#include "numerics/word_products.h"
+
+namespace quorix {
+namespace {
+
+using limbs::Column;
+using limbs::Limb;
+using limbs::Mantissa;
+
+constexpr int kBias = QReal::kExponentOfOne - 1;
+
+// The upper half of the product of two mantissas, too small by less than 12 units of limb 0: of the products
+// of the column below it only the upper limbs are added.
+inline Mantissa UpperProduct(const Mantissa& a, const Mantissa& b) {
+    Mantissa product;
+    Column column;
+    for (std::size_t i = 0; i < 6; ++i) column.AddLimb(limbs::High(limbs::Product(a[i], b[5 - i])));
+    for (std::size_t k = 6; k <= 10; ++k) {
+        for (std::size_t i = k - 5; i <= 5; ++i) column.Add(limbs::Product(a[i], b[k - i]));
+        product[k - 6] = column.Next();
+    }
+    product[5] = column.low;
+    return product;
+}
+
+// By the rule of the words the product lacks up to 20 units of the guard word, because word products below it
+// are left out. That decides the rounding only where the guard word lies close above the half; there the
+// words are multiplied.
+constexpr Limb kWordsLack = Limb{44} << 32;
+constexpr Limb kLimbsLack = 32;
+
+inline bool RoundingIsClear(const Mantissa& normalised) {
+    const Limb rest = (normalised[0] + limbs::kHalfUnit) & (limbs::kUnit - 1);
+    return rest >= kWordsLack && rest < limbs::kUnit - kLimbsLack;
+}
+
+inline int ShiftProduct(Mantissa& product) {
+    if ((product[limbs::kLimbs - 1] & limbs::kTopBit) != 0) return 0;
+    limbs::ShiftLeft(product, 1);
+    return 1;
+}
+
+[[gnu::noinline]] int MultiplyByWords(const Mantissa& a, const Mantissa& b, Mantissa& product) {
+    product = ProductByWords(a, b);
+    return ShiftProduct(product);
+}
+
+// Both operands are non-zero.
+inline Unpacked MultiplyNonZero(const Unpacked& a, const Unpacked& b) {
+    Unpacked result;
+    result.sign = a.sign ^ b.sign;
+    result.mantissa = UpperProduct(a.mantissa, b.mantissa);
+    int shift = ShiftProduct(result.mantissa);
+    if (!RoundingIsClear(result.mantissa)) [[unlikely]] {
+        shift = MultiplyByWords(a.mantissa, b.mantissa, result.mantissa);
+    }
+    result.exponent = a.exponent + b.exponent - kBias - shift + limbs::RoundHalfUp(result.mantissa);
+    return result;
+}
+
+}  // namespace
+
+Unpacked Multiply(const Unpacked& a, const Unpacked& b) {
+    if (a.IsZero() || b.IsZero()) return {};
+    return MultiplyNonZero(a, b);
+}
+
+void qmul(const QReal& a, const QReal& b, QReal& product) {
+    if (a.IsZero() || b.IsZero()) return qclear(product);
+    // The sign word that the target had before is what an overflow leaves in it; that is intended.
+    if (!StoreInRange(MultiplyNonZero(Unpack(a), Unpack(b)), product))
+        Overflow("qmul", product.words[0], product);
+}
+
+void qmuli(const QReal& a, const QReal& b, QReal& product) {
+    if (a.IsZero() || b.IsZero()) return qclear(product);
+    Unpacked result = Unpack(b);
+    const Limb top = limbs::MultiplyShort(result.mantissa, Limb{a.words[3]} << 48);
+    for (std::size_t i = 0; i + 1 < limbs::kLimbs; ++i) result.mantissa[i] = result.mantissa[i + 1];
+    result.mantissa[limbs::kLimbs - 1] = top;
+    const int shift = ShiftProduct(result.mantissa);
+    result.sign = a.words[0] ^ result.sign;
+    result.exponent += a.words[1] - kBias - shift + limbs::RoundHalfUp(result.mantissa);
+    if (!StoreInRange(result, product)) Overflow("qmuli", product.words[0], product);
+}
+
+}  // namespace quorix

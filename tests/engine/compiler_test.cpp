@@ -1,0 +1,191 @@
+#include "engine/keyword_table.h"
+#include "engine/number_grammar.h"
+#include "engine/postfix_compiler.h"
+#include "engine/radix_digits.h"
+#include "engine/tokeniser.h"
+#include "support/engine_fixture.h"
+
+#include <cmath>
+
+namespace quorix {
+namespace {
+
+using CompilerTest = EngineTest;
+
+std::string Tokens(std::string_view text, int radix = 10, std::u16string_view boundName = {}) {
+    std::u16string tokens = Wide(text);
+    return TokeniseExpression(tokens, radix, boundName) ? Narrow(tokens) : "refused";
+}
+
+std::string Postfix(std::string_view text, int radix = 10) {
+    std::u16string postfix = Wide(text);
+    if (!TokeniseExpression(postfix, radix)) return "refused";
+    if (!CompileToPostfix(postfix)) {
+        EXPECT_EQ(calcContext().calcError, -1) << text;
+        ClearCalcError();
+        return "not compiled";
+    }
+    return Narrow(postfix);
+}
+
+TEST_F(CompilerTest, DecimalTextIsCutIntoTokens) {
+    const struct {
+        std::string_view text, tokens;
+    } rows[] = {
+        {"1+2", "1 + 2"},
+        {"  (SIN 30)*[va] ", "( sin 30 ) * va"},
+        {"1.5E3%", "1.5e3 %"},
+        {"3 4", "3 4"},
+        {".5", "5"},  // A point that follows no digit is lost.
+        {"5.", "refused"},
+        {"1E-5", "1e - 5"},            // An exponent has no sign of its own.
+        {"1.2.3+PIE", "1.2.3 + pie"},  // The evaluator decides about such words.
+        {"2pi", "2pi"},
+        {"(5)", "( 5 )"},
+        {"5!", "5 !"},
+        {"[VA]", "va"},
+        {"-5", "- 5"},
+        {"5+", "refused"},  // An expression ends in a word.
+        {"5.+.", "refused"},
+        {"-", "refused"},
+        {"--", "refused"},
+        {"1--2", "refused"},  // Two minus signs in a row.
+        {"1- -2", "1 - - 2"},
+        {"", "refused"},
+        {" ])%!", "refused"},
+        {"1,2", "refused"},
+        {"1;2", "refused"},
+        {"A+B", "refused"},
+        {"lg 5", "refused"},  // Known to the compiler alone.
+        {"not 5", "refused"},
+        {"x+1", "refused"},
+        {"(1+2", "refused"},
+        {"1+2)", "refused"},
+        {"2×3", "refused"},
+        {"πr", "refused"},
+    };
+    for (const auto& row : rows) EXPECT_EQ(Tokens(row.text), row.tokens) << row.text;
+}
+
+TEST_F(CompilerTest, OtherRadicesBecomeSignedDecimals) {
+    const struct {
+        int radix;
+        std::string_view text, tokens;
+    } rows[] = {
+        {16, "A+B", "10 + 11"},
+        {16, "a+0f", "10 + 15"},
+        {16, "FFFFFFFF", "-1"},
+        {16, "7fffffff-80000000", "2147483647 - -2147483648"},
+        {16, "123456789ABC", "-1"},        // Saturates at the largest word.
+        {16, "ADD", "2781"},               // Digits come before words...
+        {16, "ABS(ABC)", "abs ( 2748 )"},  // ...and keywords have a letter that is none.
+        {16, "[VA]", "va"},
+        {16, "1.5", "1 5"},  // The point is skipped.
+        {16, "1,;~2", "1 2"},
+        {16, "G", "refused"},
+        {16, "pi", "refused"},
+        {2, "101+11", "5 + 3"},
+        {2, "102", "refused"},
+        {2, "e", "refused"},
+        {8, "17 and 7", "15 and 7"},
+        {8, "8", "refused"},
+        {3, "1+e 2", "1+E 2"},  // An unknown radix leaves the text unchecked.
+    };
+    for (const auto& row : rows) EXPECT_EQ(Tokens(row.text, row.radix), row.tokens) << row.text;
+}
+
+TEST_F(CompilerTest, TheBoundNameIsAcceptedWithoutRegardToCase) {
+    EXPECT_EQ(Tokens("x+X", 10, u"x"), "x + x");
+    EXPECT_EQ(Tokens("xx", 10, u"x"), "refused");
+    EXPECT_EQ(Tokens("θ+1", 10, u"θ"), "θ + 1");
+    EXPECT_EQ(Tokens("AB+g", 16, u"G"), "171 + g");
+    calcContext().calcError = -5;
+    EXPECT_EQ(Tokens("1"), "refused");
+}
+
+TEST_F(CompilerTest, PostfixFollowsPrecedence) {
+    const struct {
+        std::string_view text, postfix;
+    } rows[] = {
+        {"1+2*3", "1 2 3 * + "},
+        {"(1+2)*3", "( 1 2 + ) 3 * "},
+        {"8/2/2", "8 2 / 2 / "},
+        {"2^3^2", "2 3 2 ^ ^ "},  // To the right.
+        {"2^3 exp 2*5", "2 3 2 exp ^ 5 * "},
+        {"sin 30 + 1", "30 sin 1 + "},
+        {"sin(30)", "( 30 ) sin "},
+        {"2*sin 30", "2 30 sin * "},
+        {"abs(-3)+1", "( 3 - ) 1 + abs "},  // The level of abs is that of the logical words.
+        {"-5+3", "5 - 3 + "},
+        {"2-(-3)", "2 ( 3 - ) - "},
+        {"1 and 2+3", "1 2 3 + and "},
+        {"7 mod 3*2", "7 3 2 * mod "},
+        {"5!%", "5 ! % "},
+        {"3 4", "3 4 "},
+        {"2*-3", "not compiled"},
+        {"2 - -3", "not compiled"},
+        {"2+!5", "not compiled"},
+        {"(2+%)5", "not compiled"},
+        {")5(7", "not compiled"},
+        {"5)(", "refused"},
+    };
+    for (const auto& row : rows) EXPECT_EQ(Postfix(row.text), row.postfix) << row.text;
+}
+
+TEST_F(CompilerTest, EachWordHasItsLevel) {
+    const struct {
+        int level;
+        std::string_view words;
+    } rows[] = {
+        {0, "( )"},
+        {1, "<< >> and or nand nor xor abs"},
+        {2, "+ -"},
+        {3, "mod shl shr rtl rtr"},
+        {4, "* /"},
+        {5, "^ ! % root"},
+        {6, "exp"},
+        {7,
+         "sin cos tan ctan asin acos atan actan lg ln log sqrt sinh cosh tanh sec csc sech csch ctanh acot "
+         "asinh acosh atanh acoth asec acsc asech acsch inv trans det rank eigl eigv diag orth tri"},
+        {8, "5 x va not cpl iexp iroot i pi"}};
+    for (const auto& row : rows) {
+        TokenList words;
+        SplitAtBlanks(Wide(row.words), words);
+        for (const Token& word : words.tokens) {
+            EXPECT_EQ(OperatorPrecedence(words.TextOf(word)), row.level) << Narrow(words.TextOf(word));
+        }
+    }
+    EXPECT_EQ(UpperKeywords().size(), 52U);
+}
+
+TEST_F(CompilerTest, DigitStringsInARadix) {
+    const struct {
+        int radix;
+        std::u16string_view digits;
+        std::uint32_t value;
+    } rows[] = {{2, u"101", 5},
+                {8, u"777", 511},
+                {10, u"4294967295", 4294967295U},
+                {16, u"FF", 255},
+                {16, u"1FFFFFFFF", 4294967295U},
+                {7, u"55", 0},
+                {16, u"", 0}};
+    for (const auto& row : rows) EXPECT_EQ(ParseUnsignedInRadix(row.digits, row.radix), row.value);
+}
+
+TEST_F(CompilerTest, NumberGrammarKnowsNoWordsAndNoHexadecimal) {
+    const struct {
+        std::string_view text;
+        std::size_t length;
+    } rows[] = {{"12", 2},  {"12.", 3},  {"12.5x", 4}, {"1e5", 3},   {"1e", 1},
+                {"1e-", 1}, {"1E+5", 4}, {"-7", 2},    {"-", 0},     {".5", 0},
+                {"inf", 0}, {"nan", 0},  {"0x1p3", 1}, {"1.2.3", 3}, {"", 0}};
+    for (const auto& row : rows) EXPECT_EQ(NumberPrefixLength(Wide(row.text)), row.length) << row.text;
+    EXPECT_EQ(NumberToDouble(u"-2.5e3"), -2500.0);
+    EXPECT_EQ(NumberToDouble(u"1e999999999999999999999"), HUGE_VAL);
+    EXPECT_EQ(NumberToDouble(u"1e-400"), 0.0);
+    EXPECT_EQ(NumberToDouble(u"0.000001e400"), HUGE_VAL);
+}
+
+}  // namespace
+}  // namespace quorix

@@ -1,0 +1,102 @@
+#pragma once
+
+// Ground for tests of the engine: a clean process-wide state, and texts that tables can be written in.
+
+#include <gtest/gtest.h>
+
+#include <ostream>
+#include <string>
+#include <string_view>
+
+#include "engine/calc_context.h"
+#include "engine/evaluate.h"
+#include "engine/format_value.h"
+#include "engine/key_engine.h"
+#include "engine/repeat_registers.h"
+#include "engine/variable_store.h"
+#include "numerics/qcore.h"
+
+namespace quorix {
+
+/// UTF-8 of the basic plane to 16-bit text and back.
+inline std::u16string Wide(std::string_view utf8) {
+    std::u16string text;
+    for (std::size_t i = 0; i < utf8.size();) {
+        const auto byte = static_cast<unsigned char>(utf8[i]);
+        const std::size_t length = byte < 0x80 ? 1 : byte < 0xE0 ? 2 : 3;
+        unsigned code = byte < 0x80 ? byte : byte < 0xE0 ? byte & 0x1FU : byte & 0x0FU;
+        for (std::size_t k = 1; k < length; ++k)
+            code = code << 6U | (static_cast<unsigned char>(utf8[i + k]) & 0x3FU);
+        text.push_back(static_cast<char16_t>(code));
+        i += length;
+    }
+    return text;
+}
+
+inline std::string Narrow(std::u16string_view text) {
+    std::string utf8;
+    for (const char16_t c : text) {
+        if (c < 0x80) {
+            utf8.push_back(static_cast<char>(c));
+        } else if (c < 0x800) {
+            utf8.push_back(static_cast<char>(0xC0 | c >> 6));
+            utf8.push_back(static_cast<char>(0x80 | (c & 0x3F)));
+        } else {
+            utf8.push_back(static_cast<char>(0xE0 | c >> 12));
+            utf8.push_back(static_cast<char>(0x80 | ((c >> 6) & 0x3F)));
+            utf8.push_back(static_cast<char>(0x80 | (c & 0x3F)));
+        }
+    }
+    return utf8;
+}
+
+/// NORM text with 32 digits.
+inline std::string TextOf(const QReal& value) {
+    const FormattedValue formatted = FormatValue(value, {});
+    return Narrow(formatted.mantissa + formatted.exponent);
+}
+
+/// "3", "1+2i", "2x3 matrix".
+inline std::string TextOf(const QComplex& value) {
+    if (value.im.IsZero()) return TextOf(value.re);
+    return TextOf(value.re) + (value.im.IsNegative() ? "" : "+") + TextOf(value.im) + "i";
+}
+inline std::string TextOf(const CalcValue& value) {
+    if (value.kind != KIND_MATRIX) return TextOf(value.number);
+    std::string text = std::to_string(value.rows) + "x" + std::to_string(value.cols) + ":";
+    for (const double element : value.data) text += " " + std::to_string(element);
+    return text;
+}
+
+inline void PrintTo(const CalcValue& value, std::ostream* out) {
+    *out << "kind " << int{value.kind} << " " << TextOf(value);
+}
+
+inline QReal Real(std::string_view text) {
+    QReal value;
+    asctoq(text, value);
+    return value;
+}
+
+/// Value or "error CODE"; the error is cleared before and behind.
+inline std::string Evaluate(std::string_view text, int radix = 10,
+                            EvaluationMode mode = EvaluationMode::number) {
+    ClearCalcError();
+    const CalcValue value = EvaluateExpression(Wide(text), mode, radix);
+    const std::int32_t error = calcContext().calcError;
+    ClearCalcError();
+    return error != 0 ? "error " + std::to_string(error) : TextOf(value);
+}
+
+class EngineTest : public testing::Test {
+  protected:
+    void SetUp() override {
+        ClearCalcError();
+        calcContext() = {};
+        ClearAllVariables();
+        KeyEngineReset();
+        repeatRegisters().Clear();
+    }
+};
+
+}  // namespace quorix
