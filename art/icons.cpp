@@ -34,12 +34,8 @@ class PathReader {
   private:
     void Step(char command) {
         switch (command) {
-            case 'M':
-                lines_.moveTo(PointOnGrid());
-                break;
-            case 'L':
-                lines_.lineTo(PointOnGrid());
-                break;
+            case 'M': lines_.moveTo(PointOnGrid()); break;
+            case 'L': lines_.lineTo(PointOnGrid()); break;
             case 'H':
                 lines_.lineTo(OnGrid(Number() * step_ + origin_.x()), lines_.currentPosition().y());
                 break;
@@ -57,20 +53,15 @@ class PathReader {
                 lines_.cubicTo(first, second, PointOnGrid());
                 break;
             }
-            case 'Z':
-                lines_.closeSubpath();
-                break;
-            case 'E':
-                Ellipse();
-                break;
+            case 'Z': lines_.closeSubpath(); break;
+            case 'E': Ellipse(); break;
             case 'O': {
                 const QPointF centre = FreePoint();
                 const double radius = Number() * step_;
                 dots_.addEllipse(centre, radius, radius);
                 break;
             }
-            default:
-                throw std::runtime_error(std::string("icon path has an unknown step ") + command);
+            default: throw std::runtime_error(std::string("icon path has an unknown step ") + command);
         }
     }
 

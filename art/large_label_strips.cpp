@@ -71,9 +71,7 @@ class SignPainter {
                     Bar(0, length_);
                     Post(0, length_);
                     break;
-                case u'\u2212':
-                    Bar(0, length_);
-                    break;
+                case u'\u2212': Bar(0, length_); break;
                 case u'=':
                     // The bars of "=" stand five half strokes apart; an odd pixel goes to the upper one.
                     Bar(-(5 * stroke_ + 2) / 4, length_);
@@ -89,14 +87,9 @@ class SignPainter {
                     Dot(-11 * length_ / 28);
                     Dot(11 * length_ / 28);
                     break;
-                case u'.':
-                    painter.drawEllipse(QPointF(x_, y_ + 5.0 * stroke_ / 2), stroke_, stroke_);
-                    break;
-                case u'\u00D7':
-                    Cross();
-                    break;
-                default:
-                    break;
+                case u'.': painter.drawEllipse(QPointF(x_, y_ + 5.0 * stroke_ / 2), stroke_, stroke_); break;
+                case u'\u00D7': Cross(); break;
+                default: break;
             }
         });
     }

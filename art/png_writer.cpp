@@ -39,8 +39,9 @@ std::vector<png_byte> Bytes(const QImage& image, bool opaque) {
     return bytes;
 }
 
-[[noreturn]] void OnError(png_structp, png_const_charp message) {
-    throw std::runtime_error(std::string("png: ") + message);
+/// Only memory can fail here, and libpng must not return from an error.
+[[noreturn]] void OnError(png_structp /*png*/, png_const_charp message) {
+    qFatal("png: %s", message);
 }
 
 void AppendTo(png_structp png, png_bytep data, png_size_t size) {

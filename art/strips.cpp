@@ -32,12 +32,9 @@ constexpr Strip kTexButton = {"TexButton", 28, 14, Ground::kTransparent, DrawTex
 
 QColor GroundColor(const Strip& strip, const Palette& palette) {
     switch (strip.ground) {
-        case Ground::kBody:
-            return palette.Color("body");
-        case Ground::kSheet:
-            return palette.Color("sheet");
-        case Ground::kTransparent:
-            break;
+        case Ground::kBody: return palette.Color("body");
+        case Ground::kSheet: return palette.Color("sheet");
+        case Ground::kTransparent: break;
     }
     return QColor(0, 0, 0, 0);
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <iterator>
 #include <string_view>
 
 namespace quorix {
@@ -13,7 +14,7 @@ namespace quorix {
 /// The pictures of the chooser, of "delete" and of the two cursor keys are drawn; their texts here are the
 /// private marks kChooserMark, kDeleteMark, kLeftMark and kRightMark.
 struct KeyLabel {
-    int code;  ///< Key code as `Key(code)` of the display takes it.
+    std::int32_t code;  ///< Key code as `Key(code)` of the display takes it.
     std::u16string_view text;
 };
 
@@ -55,13 +56,14 @@ inline constexpr KeyLabel kKeyLabels[] = {
     {101, u"det"},      {102, u"inv"},     {103, u"eigv"},  {104, u"eigl"},   {105, u"orth"},
     {106, u"rank"},     {107, u"trans"},   {108, u"diag"},  {109, u"tri"},    {110, u"solve"},
     {111, u"syd"},      {112, u"sln"},     {113, u"fv"},    {114, u"pv"},     {115, u"nper"},
-    {116, u"pmt"},      {117, u"rate"},    {118, u"db"},    {131, u"1/x"},    {137, u"word"},
+    {116, u"pmt"},      {117, u"rate"},    {118, u"db"},    {131, u"1/x"},
 };
 
 /// What stands on a cell instead of the label of its key; the chooser's cell 0 is the same on every page.
 inline constexpr CellLabel kCellLabels[] = {
     {0, 2, false, u"\u0192(x)\u25BE"},
     {2, 2, false, u"base"},
+    {2, 2, true, u"word"},
     {3, 2, false, u"data"},
     {3, 3, false, u"stat"},
     {4, 1, false, u"edit"},
@@ -71,7 +73,7 @@ inline constexpr CellLabel kCellLabels[] = {
 };
 
 /// Label of a key code; empty for a code that stands on no key.
-constexpr std::u16string_view LabelOfKey(int code) {
+constexpr std::u16string_view LabelOfKey(std::int32_t code) {
     for (const KeyLabel& label : kKeyLabels) {
         if (label.code == code) {
             return label.text;
