@@ -84,9 +84,9 @@ void CLedDisplay::SendTokens(std::int32_t code) {
 }
 
 void CLedDisplay::ShowBasicText(std::u16string_view text) {
-    Line().Clear();
-    Line().InsertCharacters(text);
-    Line().ResetPositions();
+    EditedLine().Clear();
+    EditedLine().InsertCharacters(text);
+    EditedLine().ResetPositions();
     resultText_ = text;
 }
 
@@ -125,7 +125,7 @@ void CLedDisplay::ShowBasicValue(const QComplex& value, std::int32_t formatId, b
 }
 
 void CLedDisplay::ReformatBasicValue() {
-    Line().Clear();
+    EditedLine().Clear();
     ShowBasicValue(basicValue_, FORMAT_NORM, true);
 }
 

@@ -164,8 +164,8 @@ void CLedDisplay::ShowResult(std::u16string_view text, const QComplex& value) {
 }
 
 void CLedDisplay::SetLine(std::u16string_view text, std::u16string_view lengths) {
-    Line().Set(text, lengths);
-    Line().MoveRight(Line().TokenCount());
+    EditedLine().Set(text, lengths);
+    EditedLine().MoveRight(Line().TokenCount());
     Invalidate();
 }
 
@@ -180,12 +180,12 @@ void CLedDisplay::InsertText(std::u16string_view text, bool clearFirst) {
         // An expression stays ungrouped but takes the locale's decimal sign.
         std::replace(shown.begin(), shown.end(), u'.', SignsOf(settings_.numberLocale).decimal);
     }
-    Line().InsertCharacters(ToDisplaySigns(shown));
+    EditedLine().InsertCharacters(ToDisplaySigns(shown));
     Invalidate();
 }
 
 void CLedDisplay::Paste(std::u16string_view text) {
-    Line().InsertCharacters(text);
+    EditedLine().InsertCharacters(text);
     Invalidate();
 }
 
@@ -199,7 +199,7 @@ bool CLedDisplay::EngineText(std::u16string& out) const {
 }
 
 void CLedDisplay::ClearLine() {
-    Line().Clear();
+    EditedLine().Clear();
     resultText_.clear();
     resultIsValue_ = false;
     lastValue_ = {};
@@ -208,13 +208,13 @@ void CLedDisplay::ClearLine() {
 }
 
 void CLedDisplay::EraseLine() {
-    Line().Clear();
+    EditedLine().Clear();
     Invalidate();
 }
 
 void CLedDisplay::UpdateView(std::span<const int> tokenWidths, int scale) {
     tokenWidths_.assign(tokenWidths.begin(), tokenWidths.end());
-    Line().UpdateView(tokenWidths, (kTextRowWidth - kCursorRoom) * scale);
+    EditedLine().UpdateView(tokenWidths, (kTextRowWidth - kCursorRoom) * scale);
 }
 
 bool CLedDisplay::ArrowShown(DisplayPart arrow) const {

@@ -136,7 +136,7 @@ class CLedDisplay {
     friend class DisplayFile;
 
     static std::size_t Index(int i) { return static_cast<std::size_t>(i); }
-    TokenLine& Line() { return lines_[Index(page_)][Index(line_)]; }
+    TokenLine& EditedLine() { return lines_[Index(page_)][Index(line_)]; }
     std::u16string& CurrentMemory() { return memories_[Index(memory_ - KEY_M1)][Index(page_)]; }
 
     void StringKey(std::int32_t code);

@@ -41,7 +41,7 @@ bool CLedDisplay::GestureAllowedAt(Point point, int scale) const {
 }
 
 void CLedDisplay::TapTextRow(Point point, int scale) {
-    TokenLine& line = Line();
+    TokenLine& line = EditedLine();
     int right = DisplayPartRect(DisplayPart::textRow, scale).left + kTextRowInset * scale;
     const int known = static_cast<int>(tokenWidths_.size());
     for (int k = line.FirstVisible(); k <= line.LastVisible() && k < known; ++k) {

@@ -30,10 +30,10 @@ bool CLedDisplay::LineKey(std::int32_t code) {
 
 bool CLedDisplay::CursorKey(std::int32_t code) {
     switch (code) {
-        case KEY_LEFT: Line().MoveLeft(1); return true;
-        case KEY_RIGHT: Line().MoveRight(1); return true;
-        case KEY_LEFT_10: Line().MoveLeft(kWideStep); return true;
-        case KEY_RIGHT_10: Line().MoveRight(kWideStep); return true;
+        case KEY_LEFT: EditedLine().MoveLeft(1); return true;
+        case KEY_RIGHT: EditedLine().MoveRight(1); return true;
+        case KEY_LEFT_10: EditedLine().MoveLeft(kWideStep); return true;
+        case KEY_RIGHT_10: EditedLine().MoveRight(kWideStep); return true;
         default: return false;
     }
 }
@@ -54,10 +54,10 @@ bool CLedDisplay::MemoryKey(std::int32_t code) {
 void CLedDisplay::InsertTokensOf(std::int32_t code) {
     if (code == KEY_POINT) {
         const char16_t sign = SignsOf(settings_.numberLocale).decimal;
-        Line().InsertToken(Line().Cursor(), {&sign, 1});
+        EditedLine().InsertToken(Line().Cursor(), {&sign, 1});
     } else if (const StringKeyTokens* row = FindStringKeyTokens(code)) {
-        Line().InsertToken(Line().Cursor(), row->first);
-        Line().InsertToken(Line().Cursor(), row->second);
+        EditedLine().InsertToken(Line().Cursor(), row->first);
+        EditedLine().InsertToken(Line().Cursor(), row->second);
     } else {
         return;
     }
@@ -104,7 +104,7 @@ void CLedDisplay::StringKey(std::int32_t code) {
     }
     switch (code) {
         case KEY_CLEAR: ClearLine(); return;
-        case KEY_DELETE: Line().DeleteToken(Line().Cursor()); return;
+        case KEY_DELETE: EditedLine().DeleteToken(Line().Cursor()); return;
         case KEY_STORE: StoreStringResult(); return;
         case KEY_RECALL: InsertText(CurrentMemory(), false); return;
         case KEY_EQUALS: EqualsInString(); return;

@@ -1,6 +1,7 @@
 #include "frontends/memory_text.h"
 
 #include <algorithm>
+#include <string>
 
 #include "engine/calc_context.h"
 #include "engine/evaluate.h"
@@ -54,6 +55,16 @@ std::u16string FullDigits(const QReal& part) {
     return WithExponentOperator(text);
 }
 
+/// "1.5exp(-12)" as decimal text "1.5E-12"; empty when the memory is no real number alone.
+std::string PlainDecimal(std::u16string_view memory) {
+    std::u16string text(memory);
+    ReplaceAll(text, u"exp(", u"E");
+    ReplaceAll(text, u"exp", u"E");
+    std::erase(text, u')');
+    const bool plain = text.find_first_not_of(u"0123456789.-E") == std::u16string::npos;
+    return plain ? std::string(text.begin(), text.end()) : std::string();
+}
+
 }  // namespace
 
 std::u16string MemoryTextOf(std::u16string_view shown, std::u16string_view numberLocale,
@@ -85,6 +96,15 @@ std::u16string MemoryTextOfComplex(const QComplex& value) {
 QComplex MemoryValue(std::u16string_view memory, std::int32_t radixId) {
     if (memory.empty()) {
         return {};
+    }
+    if (radixId == RADIX_DEC) {
+        // The usual case needs no evaluation.
+        if (const std::string decimal = PlainDecimal(memory); !decimal.empty()) {
+            QComplex value;
+            asctoq(decimal, value.re);
+            ClearCalcError();
+            return value;
+        }
     }
     const int radix = RadixOf(radixId);
     const auto text = ToEngineText(memory, u"English (US)", radix);

@@ -128,6 +128,11 @@ std::int32_t KeyOfCharacter(char16_t character, std::int32_t radixId) {
         case u',': return KEY_COMMA;
         case u'x': return KEY_X;
         case u'^': return KEY_POWER;
+        case u'!': return KEY_FACTORIAL;
+        case u'%': return KEY_PERCENT;
+        case symbols::kMultiply: return KEY_MULTIPLY;
+        case symbols::kDivide: return KEY_DIVIDE;
+        case symbols::kMinus: return KEY_MINUS;
         default: return KEY_NONE;
     }
 }

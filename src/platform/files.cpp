@@ -3,13 +3,19 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <cerrno>
+#include <csignal>
+#include <cstdlib>
 #include <fstream>
 #include <string>
+#include <string_view>
 #include <system_error>
 
 namespace quorix {
 
 namespace {
+
+constexpr std::string_view kTemporaryEnding = ".tmp";
 
 /// A POSIX descriptor that closes itself.
 class Descriptor {
@@ -63,7 +69,7 @@ std::optional<std::vector<std::uint8_t>> ReadWholeFile(const std::filesystem::pa
 bool WriteFileAtomically(const std::filesystem::path& path, std::span<const std::uint8_t> bytes) {
     // The process number keeps two programs that share a folder out of each other's temporary file.
     std::filesystem::path temporary = path;
-    temporary += "." + std::to_string(::getpid()) + ".tmp";
+    temporary += "." + std::to_string(::getpid()) + std::string(kTemporaryEnding);
     std::error_code error;
     {
         const Descriptor file(::open(temporary.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644));
@@ -82,6 +88,23 @@ bool WriteFileAtomically(const std::filesystem::path& path, std::span<const std:
         return false;
     }
     return true;
+}
+
+void RemoveAbandonedTemporaries(const std::filesystem::path& folder) {
+    std::error_code error;
+    for (const auto& entry : std::filesystem::directory_iterator(folder, error)) {
+        // "NAME.PROCESS.tmp"
+        const std::filesystem::path file = entry.path();
+        if (file.extension() != kTemporaryEnding) {
+            continue;
+        }
+        const std::string process = file.stem().extension().string();
+        const int id = process.size() > 1 ? std::atoi(process.c_str() + 1) : 0;
+        if (id > 0 && ::kill(id, 0) != 0 && errno == ESRCH) {
+            std::error_code ignored;
+            std::filesystem::remove(file, ignored);
+        }
+    }
 }
 
 bool KeepDamagedFile(const std::filesystem::path& path) {

@@ -21,6 +21,9 @@ std::optional<std::vector<std::uint8_t>> ReadWholeFile(const std::filesystem::pa
 /// `path` holds either the old or the new content at every moment. False leaves the old file untouched.
 bool WriteFileAtomically(const std::filesystem::path& path, std::span<const std::uint8_t> bytes);
 
+/// Removes the temporary files that killed programs have left in `folder`; those of running programs stay.
+void RemoveAbandonedTemporaries(const std::filesystem::path& folder);
+
 /// Renames a damaged file to "NAME.bad" (an older one of that name is replaced). False when it cannot.
 bool KeepDamagedFile(const std::filesystem::path& path);
 

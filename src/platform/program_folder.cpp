@@ -1,8 +1,11 @@
 #include "platform/program_folder.h"
 
+#include <fcntl.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdlib>
+#include <string>
 #include <system_error>
 
 namespace quorix {
@@ -27,8 +30,21 @@ bool IsSeeded(const fs::directory_entry& entry) {
            std::end(kSeededEndings);
 }
 
-/// Copies what is missing; what the user already has stays.
-void Seed(const fs::path& installed, const fs::path& folder) {
+/// Asks by doing: permissions alone do not tell of read-only file systems.
+bool IsWritable(const fs::path& folder) {
+    const fs::path probe = folder / (".quorix-" + std::to_string(::getpid()));
+    const int descriptor = ::open(probe.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
+    if (descriptor < 0) {
+        return false;
+    }
+    ::close(descriptor);
+    ::unlink(probe.c_str());
+    return true;
+}
+
+}  // namespace
+
+void SeedFolder(const fs::path& installed, const fs::path& folder) {
     std::error_code error;
     for (const fs::directory_entry& entry : fs::directory_iterator(installed, error)) {
         if (IsSeeded(entry)) {
@@ -37,12 +53,6 @@ void Seed(const fs::path& installed, const fs::path& folder) {
         }
     }
 }
-
-bool IsWritable(const fs::path& folder) {
-    return ::access(folder.c_str(), W_OK | X_OK) == 0;
-}
-
-}  // namespace
 
 fs::path FindProgramFolder(const fs::path& installed, const fs::path& userFolder) {
     if (IsWritable(installed) || userFolder.empty()) {
@@ -53,7 +63,7 @@ fs::path FindProgramFolder(const fs::path& installed, const fs::path& userFolder
     if (!IsWritable(userFolder)) {
         return installed;
     }
-    Seed(installed, userFolder);
+    SeedFolder(installed, userFolder);
     return userFolder;
 }
 

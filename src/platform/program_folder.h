@@ -14,6 +14,9 @@ namespace quorix {
 std::filesystem::path FindProgramFolder(const std::filesystem::path& installed,
                                         const std::filesystem::path& userFolder);
 
+/// Copies the shipped content (not the programs) that `folder` lacks; what is there stays.
+void SeedFolder(const std::filesystem::path& installed, const std::filesystem::path& folder);
+
 /// $XDG_DATA_HOME/quorix, or ~/.local/share/quorix; empty when neither is known.
 std::filesystem::path UserDataFolder();
 

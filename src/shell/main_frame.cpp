@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "frontends/base_conversion.h"
+#include "platform/files.h"
 #include "shell/category_registry.h"
 
 namespace quorix {
@@ -13,6 +14,7 @@ CMainFrame::CMainFrame(const Surroundings& surroundings, const DeviceScreen& scr
       timers_(surroundings.frameTimers),
       screen_(screen),
       displayFile_(folder_ / kDisplayFileName) {
+    RemoveAbandonedTemporaries(folder_);
     LoadPreferences(folder_ / kPreferencesFileName, surroundings.clock, preferences_);
     display_ =
         std::make_unique<CLedDisplay>(preferences_.calculator, surroundings.displayTimers,

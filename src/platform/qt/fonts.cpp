@@ -1,0 +1,45 @@
+#include "platform/qt/fonts.h"
+
+#include <QFontDatabase>
+#include <QStringList>
+#include <algorithm>
+
+namespace quorix {
+
+namespace {
+
+constexpr const char* kFontFiles[] = {
+    "Roboto-Regular.ttf",          "Roboto-Medium.ttf",          "Roboto-Bold.ttf",
+    "RobotoCondensed-Regular.ttf", "RobotoCondensed-Medium.ttf", "RobotoCondensed-Bold.ttf",
+};
+
+}  // namespace
+
+bool LoadShippedFonts(const std::filesystem::path& folder) {
+    return std::all_of(std::begin(kFontFiles), std::end(kFontFiles), [&](const char* name) {
+        return QFontDatabase::addApplicationFont(QString::fromStdU16String((folder / name).u16string())) >= 0;
+    });
+}
+
+QFont ScreenFont(const FontSpec& spec, int scale) {
+    QStringList families;
+    if (spec.face != kInterfaceFace) {
+        families << spec.face.toString();
+    }
+    if (spec.condensed) {
+        families << QStringLiteral("Roboto Condensed");
+    }
+    families << QStringLiteral("Roboto") << QStringLiteral("Noto Sans") << QStringLiteral("DejaVu Sans");
+
+    QFont font;
+    font.setFamilies(families);
+    font.setPixelSize(std::max(1, static_cast<int>(spec.em * scale)));
+    font.setWeight(static_cast<QFont::Weight>(spec.weight));
+    font.setHintingPreference(scale == 1 ? QFont::PreferVerticalHinting : QFont::PreferNoHinting);
+    font.setStyleStrategy(
+        static_cast<QFont::StyleStrategy>(QFont::PreferAntialias | QFont::NoSubpixelAntialias));
+    font.setKerning(false);
+    return font;
+}
+
+}  // namespace quorix

@@ -1,0 +1,175 @@
+#include <gtest/gtest.h>
+
+#include "engine/key_engine.h"
+#include "frontends/base_conversion.h"
+#include "frontends/categories.h"
+#include "support/calculator_rig.h"
+
+namespace quorix {
+namespace {
+
+using testing::CalculatorRig;
+
+struct Case {
+    const char* keys;
+    const char* row;
+};
+
+void ExpectRows(std::u16string_view mode, std::initializer_list<Case> cases) {
+    for (const Case& c : cases) {
+        CalculatorRig rig(mode);
+        rig.Type("c");
+        rig.Type(c.keys);
+        EXPECT_EQ(rig.Row(), c.row) << ToUtf8(mode) << " " << c.keys;
+        EXPECT_EQ(rig.Result(), c.row) << ToUtf8(mode) << " " << c.keys;
+    }
+}
+
+TEST(BasicKeys, StandardComputesAsKeysAreTyped) {
+    ExpectRows(kModeBasic, {
+                               {"", "0"},
+                               {"12.50", "12.50"},
+                               {"1.", "1."},
+                               {".5", "0.5"},
+                               {"1234567", "1¸234¸567"},
+                               {"2+3=", "5"},
+                               {"2+3===", "11"},
+                               {"2+3*4=", "14"},
+                               {"2*3+4=", "10"},
+                               {"2+*3=", "6"},
+                               {"(2+3)*4=", "20"},
+                               {"5=", "5"},
+                               {"2+3= 10=", "10"},
+                               {"5~", "-5"},
+                               {"5~3", "-53"},
+                               {"4r", "0.25"},
+                               {"5+4r=", "5.25"},
+                               {"1/3=", "0.33333333333333333333333333333333"},
+                               {"1/3=r", "3"},
+                               {"2+3 d", "0"},
+                               {"2+3 c 4=", "4"},
+                               {"1+2/0=", "Invalid parameter(s)"},
+                               {"1/0= 5+5=", "10"},
+                               {"5)", "Syntax error"},
+                               {"p", "3.1415926535897932384626433832795"},
+                               {"p5", "5"},
+                           });
+}
+
+TEST(BasicKeys, ReversePolishComputesAtOnce) {
+    ExpectRows(kModeRpn, {
+                             {"2(3+", "5"},
+                             {"2(3(4*+", "14"},
+                             {"1(3/", "0.33333333333333333333333333333333"},
+                             {"4r", "0.25"},
+                             {"7~", "-7"},
+                             {"2(3+=", "5"},
+                             {"2(3+d", "5"},
+                             {"+", "Syntax error"},
+                         });
+}
+
+TEST(BasicKeys, ThePendingOperatorIsShownForOneKey) {
+    CalculatorRig rig(kModeBasic);
+    rig.Type("c2/");
+    EXPECT_EQ(rig.display->PendingOperator(), u"\u00F7");
+    rig.Type("*");
+    EXPECT_EQ(rig.display->PendingOperator(), u"\u00D7");
+    rig.Type("3");
+    EXPECT_EQ(rig.display->PendingOperator(), u"");
+}
+
+TEST(BasicKeys, OnlyEqualsUsesTheFormatOfTheDisplay) {
+    CalculatorRig rig(kModeBasic);
+    rig.Type("c");
+    rig.display->PenUp({240, 14}, 2);  // NORM to FIX
+    EXPECT_EQ(rig.display->GetFormat(), FORMAT_FIX);
+    EXPECT_EQ(rig.Row(), "0.0000");
+    rig.Type("1/8");
+    EXPECT_EQ(rig.Row(), "8");
+    rig.Type("=");
+    EXPECT_EQ(rig.Row(), "0.1250");
+    rig.display->PenUp({240, 14}, 2);
+    EXPECT_EQ(rig.Row(), "1.25000000000000000000000000000000E-1");
+}
+
+TEST(BasicKeys, MemoriesKeepTheValue) {
+    for (const std::u16string_view mode : {kModeBasic, kModeRpn}) {
+        CalculatorRig rig(mode);
+        rig.Type("c 1234.5 M c R");
+        EXPECT_EQ(rig.Row(), "1¸234.5");
+        EXPECT_EQ(ToUtf8(rig.display->MemoryText(0, 0)), "1234.5");
+        rig.Type("#20 R");  // an empty memory is 0
+        EXPECT_EQ(rig.Row(), "0");
+    }
+    CalculatorRig rig(kModeBasic);
+    rig.Type("c1000000*1000000*10= M c5+R=");
+    EXPECT_EQ(ToUtf8(rig.display->MemoryText(0, 0)), "1.00000000000000000000000000000000exp13");
+    EXPECT_EQ(rig.Row(), "1.00000000000050000000000000000000E13");
+    rig.Type("c1/1000000/10000000/8= M cR");
+    EXPECT_EQ(ToUtf8(rig.display->MemoryText(0, 0)), "1.25000000000000000000000000000000exp(-14)");
+    EXPECT_EQ(rig.Row(), "1.25000000000000000000000000000000E-14");
+    // What String mode stored reads back too, a complex number as the refusal of the basic modes.
+    rig.settings.inputMode = kModeString;
+    rig.Type("c 1+i= M");
+    rig.settings.inputMode = kModeBasic;
+    rig.Type("cR");
+    EXPECT_EQ(rig.Row(), "Invalid parameter(s)");
+}
+
+TEST(BasicKeys, BasesAndWordSizes) {
+    CalculatorRig rig(kModeBasic);
+    rig.Enter(CATEGORY_BASE_CONVERSION);
+    rig.Type("c 255");
+    CycleBase(*rig.display);
+    EXPECT_EQ(rig.Row(), "FF");
+    rig.Type("c A*2=");
+    EXPECT_EQ(rig.Row(), "14");
+    CycleBase(*rig.display);
+    EXPECT_EQ(rig.Row(), "00010100");
+    rig.Type("#137");
+    EXPECT_EQ(rig.Row(), "0000000000010100");
+    rig.Type("c101+1=");
+    EXPECT_EQ(rig.Row(), "0000000000000110");
+}
+
+TEST(BasicKeys, KeysWithoutATokenOnlyEndShift) {
+    for (const std::int32_t code :
+         std::initializer_list<std::int32_t>{KEY_I, KEY_GCD, KEY_ANSWER, KEY_NEXT_LINE, KEY_DET, 77777, -5}) {
+        CalculatorRig rig(kModeBasic);
+        rig.Type("c12s");
+        rig.display->Key(code);
+        EXPECT_EQ(rig.Row(), "12") << code;
+        EXPECT_FALSE(rig.display->GetShift()) << code;
+    }
+}
+
+TEST(BasicKeys, TheOperandStackIsBounded) {
+    CalculatorRig rig(kModeRpn);
+    rig.Type("c");
+    for (int i = 0; i < 128; ++i) {
+        rig.Type("1(");
+    }
+    EXPECT_EQ(rig.Row(), "1");
+    rig.Type("2");
+    EXPECT_EQ(rig.Row(), "Syntax error");
+    rig.Type("+");
+    EXPECT_EQ(rig.Row(), "2");
+}
+
+TEST(BasicKeys, EveryKeyInEveryModeIsSafe) {
+    for (const std::u16string_view mode : {kModeString, kModeBasic, kModeRpn}) {
+        CalculatorRig rig(mode);
+        for (int round = 0; round < 3; ++round) {
+            for (std::int32_t code = -1; code < 256; ++code) {
+                rig.display->Key(code);
+                EXPECT_LE(KeyEngineDepth(), 128);
+                EXPECT_EQ(rig.display->Line().OffsetOf(rig.display->Line().TokenCount()),
+                          rig.display->GetLine().size());
+            }
+        }
+    }
+}
+
+}  // namespace
+}  // namespace quorix

@@ -1,0 +1,81 @@
+#include "platform/files.h"
+
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <cstdlib>
+#include <random>
+
+#include "platform/program_folder.h"
+#include "support/temporary_folder.h"
+
+namespace quorix {
+namespace {
+
+namespace fs = std::filesystem;
+using testing::TemporaryFolder;
+
+TEST(Files, RoundTripAndRefusals) {
+    const TemporaryFolder folder;
+    const std::vector<std::uint8_t> bytes{1, 2, 0, 255};
+    ASSERT_TRUE(WriteFileAtomically(folder / "a", bytes));
+    EXPECT_EQ(ReadWholeFile(folder / "a"), bytes);
+    ASSERT_TRUE(WriteFileAtomically(folder / "a", {}));
+    EXPECT_EQ(ReadWholeFile(folder / "a"), std::vector<std::uint8_t>{});
+    EXPECT_FALSE(ReadWholeFile(folder / "absent"));
+    EXPECT_FALSE(ReadWholeFile(folder.Path()));
+    EXPECT_FALSE(WriteFileAtomically(folder / "no/such/folder", bytes));
+    fs::resize_file(folder / "a", kLargestFile + 1);
+    EXPECT_FALSE(ReadWholeFile(folder / "a"));
+    ASSERT_TRUE(KeepDamagedFile(folder / "a"));
+    EXPECT_TRUE(fs::exists(folder / "a.bad"));
+    EXPECT_FALSE(KeepDamagedFile(folder / "a"));
+}
+
+TEST(Files, AKilledWriterLeavesTheOldOrTheNewFile) {
+    const TemporaryFolder folder;
+    const auto path = folder / "state";
+    const std::vector<std::uint8_t> contents[] = {std::vector<std::uint8_t>(200000, 'a'),
+                                                  std::vector<std::uint8_t>(300000, 'b')};
+    ASSERT_TRUE(WriteFileAtomically(path, contents[0]));
+    std::mt19937 random(11);
+    for (int round = 0; round < 25; ++round) {
+        const pid_t child = ::fork();
+        ASSERT_GE(child, 0);
+        if (child == 0) {
+            for (int i = 0;; ++i) {
+                WriteFileAtomically(path, contents[i % 2]);
+            }
+        }
+        ::usleep(static_cast<useconds_t>(random() % 6000));
+        ::kill(child, SIGKILL);
+        int status = 0;
+        ::waitpid(child, &status, 0);
+        const auto found = ReadWholeFile(path);
+        ASSERT_TRUE(found == contents[0] || found == contents[1]) << round;
+    }
+    folder.Write("state.1.tmp", "of a running program");
+    RemoveAbandonedTemporaries(folder.Path());
+    EXPECT_EQ(std::distance(fs::directory_iterator(folder.Path()), {}), 2);
+}
+
+TEST(Files, TheProgramFolderIsTheFirstWritableOne) {
+    const TemporaryFolder folder;
+    folder.Write("installed/Interfaces/default.inf", "key = value");
+    folder.Write("installed/units.dat", "units");
+    folder.Write("installed/program", "binary");
+    EXPECT_EQ(FindProgramFolder(folder / "installed", folder / "user"), folder / "installed");
+    // Nobody can write there, not even root.
+    EXPECT_EQ(FindProgramFolder("/proc/self", folder / "user"), folder / "user");
+    EXPECT_EQ(FindProgramFolder("/proc/self", "/proc/none"), "/proc/self");
+    folder.Write("user/units.dat", "mine");
+    SeedFolder(folder / "installed", folder / "user");
+    EXPECT_TRUE(fs::exists(folder / "user/Interfaces/default.inf"));
+    EXPECT_FALSE(fs::exists(folder / "user/program"));
+    EXPECT_EQ(fs::file_size(folder / "user/units.dat"), 4U);
+}
+
+}  // namespace
+}  // namespace quorix
