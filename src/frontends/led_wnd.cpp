@@ -82,7 +82,9 @@ void LedWnd::OnPenUp(Point at) {
     }
 }
 
-void LedWnd::contextMenuEvent(QContextMenuEvent* event) { OpenContextMenu(event->globalPos()); }
+void LedWnd::contextMenuEvent(QContextMenuEvent* event) {
+    OpenContextMenu(event->globalPos());
+}
 
 void LedWnd::OpenContextMenu(QPoint globalPosition) {
     if (display_ == nullptr || !display_->AllowsGesture()) {

@@ -16,7 +16,8 @@ class LedWnd : public WindowBase {
   public:
     explicit LedWnd(WindowBase* parent) : WindowBase(parent, kLedWindowId) {}
 
-    /// The model outlives the window. holdInterval: milliseconds after which a held pen opens the context menu.
+    /// The model outlives the window. holdInterval: milliseconds after which a held pen opens the context
+    /// menu.
     void SetDisplay(CLedDisplay* display, int holdInterval);
     void SetFrameColours(const DisplayFrameColours& colours);
     void SetTexButton(const Image& picture);

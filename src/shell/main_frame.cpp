@@ -30,7 +30,8 @@ CMainFrame::CMainFrame(const Surroundings& surroundings, const DeviceScreen& scr
 CMainFrame::~CMainFrame() = default;
 
 bool CMainFrame::CategoryAvailable(int category) {
-    return category >= 0 && category < kCategoryCount && kCategoryAvailable[static_cast<std::size_t>(category)];
+    return category >= 0 && category < kCategoryCount &&
+           kCategoryAvailable[static_cast<std::size_t>(category)];
 }
 
 void CMainFrame::StartIn(int category) {

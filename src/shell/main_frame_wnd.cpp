@@ -43,14 +43,13 @@ MainFrameWnd::~MainFrameWnd() = default;
 
 bool MainFrameWnd::Create() {
     led_ = std::make_unique<LedWnd>(this);
-    frame_ = std::make_unique<CMainFrame>(
-        CMainFrame::Surroundings{.folder = folder_,
-                                 .host = *this,
-                                 .clock = clock_,
-                                 .frameTimers = this,
-                                 .displayTimers = led_.get(),
-                                 .waitCursor = &waitCursor_},
-        view_.Screen());
+    frame_ = std::make_unique<CMainFrame>(CMainFrame::Surroundings{.folder = folder_,
+                                                                   .host = *this,
+                                                                   .clock = clock_,
+                                                                   .frameTimers = this,
+                                                                   .displayTimers = led_.get(),
+                                                                   .waitCursor = &waitCursor_},
+                                          view_.Screen());
     skin_.Select(frame_->Settings().skinFile);
     if (!skin_.LoadSkinPaths()) {
         return false;
@@ -91,7 +90,8 @@ void MainFrameWnd::LoadPictures() {
     Image texButton;
     texButton.Load(folder_ / "Resources" / (Scale() == 2 ? "TexButton_VGA.png" : "TexButton.png"));
     led_->SetTexButton(texButton);
-    led_->SetFrameColours({colours_[SkinColour::border2], colours_[SkinColour::border3], colours_[SkinColour::border4]});
+    led_->SetFrameColours(
+        {colours_[SkinColour::border2], colours_[SkinColour::border3], colours_[SkinColour::border4]});
 }
 
 void MainFrameWnd::LoadPageLabels() {
@@ -160,7 +160,8 @@ void MainFrameWnd::Paint(QPainter& painter, const Rect& dirty) {
     if (layout.landscapeWord.Width() > 0) {
         PanelPainter::PaintLandscapeWord(painter, layout.landscapeWord.Scaled(Scale()), Scale());
     }
-    for (const auto& [panel, count] : {std::pair{Panel::upper, kUpperCellCount}, {Panel::lower, kLowerCellCount}}) {
+    for (const auto& [panel, count] :
+         {std::pair{Panel::upper, kUpperCellCount}, {Panel::lower, kLowerCellCount}}) {
         for (int index = 0; index < count; ++index) {
             const PanelCell cell{panel, index};
             if (Overlap(CellRect(orientation, cell).Scaled(Scale()), dirty)) {

@@ -1,6 +1,7 @@
 #pragma once
 
-// The one top-level window: paints the body and the panels, loads the skin, and hands everything else to CMainFrame.
+// The one top-level window: paints the body and the panels, loads the skin, and hands everything else to
+// CMainFrame.
 
 #include <memory>
 
@@ -21,8 +22,8 @@ class MainFrameWnd : public WindowBase, public FrameHost {
     explicit MainFrameWnd(const std::filesystem::path& programFolder);
     ~MainFrameWnd() override;
 
-    /// Reads preferences, skin and pictures and lays the window out. False when the skin cannot be read: start-up then
-    /// ends; SkinPathTried names the file.
+    /// Reads preferences, skin and pictures and lays the window out. False when the skin cannot be read:
+    /// start-up then ends; SkinPathTried names the file.
     bool Create();
     [[nodiscard]] std::filesystem::path SkinPathTried() const;
     [[nodiscard]] CMainFrame& Frame() { return *frame_; }

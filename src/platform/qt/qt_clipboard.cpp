@@ -7,10 +7,13 @@
 namespace quorix {
 
 void QtClipboard::PutText(std::u16string_view text) {
-    QGuiApplication::clipboard()->setText(QString::fromUtf16(text.data(), static_cast<qsizetype>(text.size())));
+    QGuiApplication::clipboard()->setText(
+        QString::fromUtf16(text.data(), static_cast<qsizetype>(text.size())));
 }
 
-std::u16string QtClipboard::GetText() { return QGuiApplication::clipboard()->text().toStdU16String(); }
+std::u16string QtClipboard::GetText() {
+    return QGuiApplication::clipboard()->text().toStdU16String();
+}
 
 bool QtClipboard::HasText() {
     const QMimeData* data = QGuiApplication::clipboard()->mimeData();

@@ -15,7 +15,9 @@ constexpr const char* kShapeNames[] = {"portrait", "landscape", "square"};
 /// Room that the desktop's own frame takes of the height.
 constexpr int kFrameHeight = 52;
 
-QString FileOf(const std::filesystem::path& folder) { return QString::fromStdString((folder / "view.ini").string()); }
+QString FileOf(const std::filesystem::path& folder) {
+    return QString::fromStdString((folder / "view.ini").string());
+}
 
 bool FitsDesktop(const DeviceScreen& screen) {
     const QScreen* desktop = QGuiApplication::primaryScreen();
@@ -37,11 +39,14 @@ DeviceScreen ViewSettings::Screen() const {
     }
 }
 
-ViewShape NextShape(ViewShape shape) { return static_cast<ViewShape>((static_cast<int>(shape) + 1) % 3); }
+ViewShape NextShape(ViewShape shape) {
+    return static_cast<ViewShape>((static_cast<int>(shape) + 1) % 3);
+}
 
 int ZoomAfter(int zoomPercent, int step) {
     const auto* const here = std::find(std::begin(kZooms), std::end(kZooms), zoomPercent);
-    const auto index = std::clamp<std::ptrdiff_t>(here - std::begin(kZooms) + step, 0, std::ssize(kZooms) - 1);
+    const auto index =
+        std::clamp<std::ptrdiff_t>(here - std::begin(kZooms) + step, 0, std::ssize(kZooms) - 1);
     return kZooms[index];
 }
 

@@ -29,8 +29,8 @@ ViewShape NextShape(ViewShape shape);
 /// The next zoom up or down; the ends stay.
 int ZoomAfter(int zoomPercent, int step);
 
-/// Reads "view.ini" of the program folder; an absent or odd file gives the defaults: portrait at 100 %, or at 50 % where
-/// the desktop is too small for it. Needs a running QApplication.
+/// Reads "view.ini" of the program folder; an absent or odd file gives the defaults: portrait at 100 %, or at
+/// 50 % where the desktop is too small for it. Needs a running QApplication.
 ViewSettings LoadViewSettings(const std::filesystem::path& folder);
 void SaveViewSettings(const std::filesystem::path& folder, const ViewSettings& settings);
 
