@@ -12,7 +12,6 @@
 #include "console/console_options.h"
 #include "console/console_session.h"
 #include "console/prompt.h"
-#include "console/utf8.h"
 #include "support/engine_fixture.h"
 
 namespace quorix {
@@ -105,24 +104,6 @@ TEST_F(ConsoleTest, SettingsShapeTheAnswer) {
     for (const auto& row : rows) {
         ConsoleSession session(ParseOptions(row.arguments).options);
         EXPECT_EQ(Answer(session, row.line), row.answer) << row.line;
-    }
-}
-
-TEST_F(ConsoleTest, Utf8GoesBothWays) {
-    const std::string text = "a×÷−√π∫¸";
-    std::u16string wide;
-    AppendFromUtf8(text, wide);
-    EXPECT_EQ(wide, u"a×÷−√π∫¸");
-    std::string narrow;
-    AppendToUtf8(wide, narrow);
-    EXPECT_EQ(narrow, text);
-    // Malformed, overlong, surrogate, cut off, beyond the plane: one sign for each.
-    for (const char* bad :
-         {"\x80", "\xC0\xAF", "\xE0\x80\x80", "\xED\xA0\x80", "\xE2\x88", "\xF0\x9F\x98\x80"}) {
-        wide.clear();
-        AppendFromUtf8(bad, wide);
-        EXPECT_THAT(wide, testing::Each(u'\xFFFD'));
-        EXPECT_FALSE(wide.empty());
     }
 }
 
