@@ -2,11 +2,11 @@
 
 #include <algorithm>
 
-#include "console/utf8.h"
 #include "engine/evaluate.h"
 #include "engine/number_locale.h"
 #include "engine/variable_store.h"
 #include "frontends/engine_text.h"
+#include "platform/utf8.h"
 
 namespace quorix {
 namespace {
@@ -24,11 +24,10 @@ void TakeTerminalSigns(std::u16string& text, std::u16string_view numberLocale) {
 
 bool ConsoleSession::Evaluate(std::string_view line, std::string& output) {
     const ResultSettings& settings = options_.result;
-    displayText_.clear();
-    AppendFromUtf8(line, displayText_);
-    TakeTerminalSigns(displayText_, settings.numberLocale);
+    std::u16string displayText = FromUtf8(line);
+    TakeTerminalSigns(displayText, settings.numberLocale);
     const int radix = RadixOf(settings.radixId);
-    const std::optional<std::u16string> engineText = ToEngineText(displayText_, settings.numberLocale, radix);
+    const std::optional<std::u16string> engineText = ToEngineText(displayText, settings.numberLocale, radix);
     if (!engineText) {
         output += kOverlengthString;
         return false;
@@ -41,7 +40,7 @@ bool ConsoleSession::Evaluate(std::string_view line, std::string& output) {
     if (succeeded) SetVariableComplex(SLOT_LAST_RESULT, value.number);
     ResultText result = ComposeResult(value, settings);
     std::ranges::replace(result.text, kDisplayComma, u',');  // The window's painter does the same.
-    AppendToUtf8(result.text, output);
+    output += ToUtf8(result.text);
     return succeeded;
 }
 

@@ -18,7 +18,6 @@ class ConsoleSession {
 
   private:
     ConsoleOptions options_;
-    std::u16string displayText_;
 };
 
 }  // namespace quorix

@@ -93,7 +93,7 @@ void RunPrompt(ConsoleSession& session) {
         const std::string_view line = Trimmed(std::string_view(text, static_cast<std::size_t>(length)));
         if (line == "exit" || line == "quit") break;
         if (line.empty()) continue;
-        lines.Add(text);
+        lines.Add(std::string(line).c_str());
         std::string answer;
         std::FILE* stream = session.Evaluate(line, answer) ? stdout : stderr;
         answer.push_back('\n');

@@ -46,15 +46,9 @@ class ComplexRun {
                     repeatRegisters().lastOperator = token.row->name;
                     token.row->function(stack_, bases_.Innermost());
                     break;
-                case ResolvedKind::open:
-                    bases_.Open(stack_.depth);
-                    break;
-                case ResolvedKind::close:
-                    bases_.Close();
-                    break;
-                default:
-                    PushValue(token);
-                    break;
+                case ResolvedKind::open: bases_.Open(stack_.depth); break;
+                case ResolvedKind::close: bases_.Close(); break;
+                default: PushValue(token); break;
             }
             if (context_.calcError != 0) return std::nullopt;
         }
@@ -66,21 +60,13 @@ class ComplexRun {
     void PushValue(const ResolvedToken<QComplex>& token) {
         ClearNumericError();
         switch (token.kind) {
-            case ResolvedKind::number:
-                return PushNumber(expression_.NumberAt(token.index));
-            case ResolvedKind::bound:
-                return PushReal(boundValue_ != nullptr ? *boundValue_ : QReal{});
-            case ResolvedKind::pi:
-                return PushReal(constants::kPi);
-            case ResolvedKind::e:
-                return PushReal(EulerNumber());
-            case ResolvedKind::i:
-                stack_.Push({QReal{}, constants::kOne});
-                return;
-            case ResolvedKind::variable:
-                return PushVariable(Variable(static_cast<int>(token.index)));
-            default:
-                context_.calcError = ERROR_SYNTAX;
+            case ResolvedKind::number: return PushNumber(expression_.NumberAt(token.index));
+            case ResolvedKind::bound: return PushReal(boundValue_ != nullptr ? *boundValue_ : QReal{});
+            case ResolvedKind::pi: return PushReal(constants::kPi);
+            case ResolvedKind::e: return PushReal(EulerNumber());
+            case ResolvedKind::i: stack_.Push({QReal{}, constants::kOne}); return;
+            case ResolvedKind::variable: return PushVariable(Variable(static_cast<int>(token.index)));
+            default: context_.calcError = ERROR_SYNTAX;
         }
     }
 

@@ -22,24 +22,12 @@ using DoubleWorkspace = EvaluatorWorkspace<DComplex, DoubleNumber>;
 void PushValue(const ResolvedToken<DComplex>& token, const DoubleWorkspace& workspace, double boundValue,
                OperandStack<DComplex>& stack) {
     switch (token.kind) {
-        case ResolvedKind::number:
-            stack.Push({workspace.expression.NumberAt(token.index).value, 0.0});
-            break;
-        case ResolvedKind::bound:
-            stack.Push({boundValue, 0.0});
-            break;
-        case ResolvedKind::pi:
-            stack.Push({std::numbers::pi, 0.0});
-            break;
-        case ResolvedKind::e:
-            stack.Push({std::numbers::e, 0.0});
-            break;
-        case ResolvedKind::i:
-            stack.Push({0.0, 1.0});
-            break;
-        default:
-            calcContext().calcError = ERROR_SYNTAX;
-            break;
+        case ResolvedKind::number: stack.Push({workspace.expression.NumberAt(token.index).value, 0.0}); break;
+        case ResolvedKind::bound: stack.Push({boundValue, 0.0}); break;
+        case ResolvedKind::pi: stack.Push({std::numbers::pi, 0.0}); break;
+        case ResolvedKind::e: stack.Push({std::numbers::e, 0.0}); break;
+        case ResolvedKind::i: stack.Push({0.0, 1.0}); break;
+        default: calcContext().calcError = ERROR_SYNTAX; break;
     }
 }
 
@@ -53,15 +41,9 @@ std::optional<DComplex> Run(DoubleWorkspace& workspace, double boundValue) {
                 repeatRegisters().lastOperator = token.row->name;
                 token.row->function(stack, workspace.bases.Innermost());
                 break;
-            case ResolvedKind::open:
-                workspace.bases.Open(stack.depth);
-                break;
-            case ResolvedKind::close:
-                workspace.bases.Close();
-                break;
-            default:
-                PushValue(token, workspace, boundValue, stack);
-                break;
+            case ResolvedKind::open: workspace.bases.Open(stack.depth); break;
+            case ResolvedKind::close: workspace.bases.Close(); break;
+            default: PushValue(token, workspace, boundValue, stack); break;
         }
         if (context.calcError != 0) return std::nullopt;
     }

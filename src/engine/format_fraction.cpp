@@ -81,12 +81,9 @@ std::u16string IntegerText(double value) {
 
 double FractionDenominatorLimit(std::uint32_t fractionLimit) {
     switch (fractionLimit) {
-        case 1:
-            return 1e6;
-        case 2:
-            return 1e9;
-        default:
-            return 1e3;
+        case 1: return 1e6;
+        case 2: return 1e9;
+        default: return 1e3;
     }
 }
 

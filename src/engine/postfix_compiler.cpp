@@ -17,15 +17,13 @@ class ShuntingYard {
 
     bool Accept(const Token& token) {
         switch (token.syntax.role) {
-            case TokenRole::binary:
-                return AcceptBinary(token);
+            case TokenRole::binary: return AcceptBinary(token);
             case TokenRole::open:
                 afterOperator_ = false;
                 operators_.push_back(token);
                 output_.push_back(token);
                 return true;
-            case TokenRole::close:
-                return AcceptClose(token);
+            case TokenRole::close: return AcceptClose(token);
             case TokenRole::prefix:
                 afterOperator_ = false;
                 operators_.push_back(token);
@@ -33,8 +31,7 @@ class ShuntingYard {
             case TokenRole::postfix:
                 if (afterOperator_) return false;
                 [[fallthrough]];
-            case TokenRole::operand:
-                break;
+            case TokenRole::operand: break;
         }
         afterOperator_ = false;
         output_.push_back(token);

@@ -32,9 +32,13 @@ struct TokenList {
         tokens.clear();
     }
     void Append(std::u16string_view token, TokenSyntax syntax) {
-        tokens.push_back({static_cast<std::uint32_t>(characters.size()),
-                          static_cast<std::uint32_t>(token.size()), syntax});
         characters.append(token);
+        Close(token.size(), syntax);
+    }
+    /// Makes a token of the last `length` characters.
+    void Close(std::size_t length, TokenSyntax syntax) {
+        tokens.push_back({static_cast<std::uint32_t>(characters.size() - length),
+                          static_cast<std::uint32_t>(length), syntax});
     }
     [[nodiscard]] std::u16string_view TextOf(const Token& token) const {
         return std::u16string_view(characters).substr(token.begin, token.length);

@@ -30,20 +30,14 @@ constexpr bool IsOperatorSign(char16_t c) {
 
 constexpr TokenSyntax SyntaxOfSign(char16_t sign) {
     switch (sign) {
-        case u'(':
-            return {TokenRole::open, 0, false};
-        case u')':
-            return {TokenRole::close, 0, false};
+        case u'(': return {TokenRole::open, 0, false};
+        case u')': return {TokenRole::close, 0, false};
         case u'+':
-        case u'-':
-            return {TokenRole::binary, 2, false};
+        case u'-': return {TokenRole::binary, 2, false};
         case u'*':
-        case u'/':
-            return {TokenRole::binary, 4, false};
-        case u'^':
-            return {TokenRole::binary, 5, false};
-        default:
-            return {TokenRole::postfix, 5, false};
+        case u'/': return {TokenRole::binary, 4, false};
+        case u'^': return {TokenRole::binary, 5, false};
+        default: return {TokenRole::postfix, 5, false};
     }
 }
 
@@ -87,38 +81,39 @@ class Scanner {
         return at;
     }
 
-    // Digits, points and the letters of "e", "pi" and "i" make a decimal number or constant; that "PIE" and
-    // "1.2.3" pass is intended, the evaluator decides.
-    [[nodiscard]] static bool IsDecimalWord(std::u16string_view word) {
-        return std::ranges::all_of(word, [](char16_t c) {
-            if (IsDigit(c) || c == u'.') return true;
-            const char16_t upper = FoldUpper(c);
-            return upper == u'E' || upper == u'P' || upper == u'I';
-        });
-    }
-
     bool AcceptWord(std::u16string_view word) {
-        if (radix_ == 10 ? IsDecimalWord(word) : IsRadixNumber(word)) {
-            radix_ == 10 ? AppendFolded(word, {}) : AppendRadixNumber(word);
+        if (radix_ != 10 && IsRadixNumber(word)) {
+            AppendRadixNumber(word);
             return true;
         }
-        lowerWord_.resize(word.size());
-        std::ranges::transform(word, lowerWord_.begin(), FoldLower);
-        const TokenSyntax syntax = SyntaxOf(lowerWord_);
-        if (!syntax.isKeyword && FindVariable(lowerWord_) < 0 &&
-            (boundName_.empty() || !EqualsIgnoringCase(lowerWord_, boundName_))) {
-            return false;
+        const bool isDecimalWord = AppendLower(word);
+        if (radix_ == 10 && isDecimalWord) {
+            list_.Close(word.size(), {});
+            return true;
         }
-        list_.Append(lowerWord_, syntax);
-        return true;
+        const std::u16string_view lower(list_.characters.data() + list_.characters.size() - word.size(),
+                                        word.size());
+        const TokenSyntax syntax = SyntaxOf(lower);
+        list_.Close(word.size(), syntax);
+        return syntax.isKeyword || FindVariable(lower) >= 0 ||
+               (!boundName_.empty() && EqualsIgnoringCase(lower, boundName_));
     }
 
-    void AppendFolded(std::u16string_view word, TokenSyntax syntax) {
+    // Appends the characters of a word in lower case. Result: whether they are digits, points and the letters
+    // of "e", "pi" and "i" alone, which makes a decimal number or constant; that "PIE" and "1.2.3" pass is
+    // intended, the evaluator decides.
+    bool AppendLower(std::u16string_view word) {
         const std::size_t begin = list_.characters.size();
-        list_.Append(word, syntax);
-        for (std::size_t i = begin; i < list_.characters.size(); ++i) {
-            list_.characters[i] = FoldLower(list_.characters[i]);
+        list_.characters.resize(begin + word.size());
+        char16_t* at = list_.characters.data() + begin;
+        bool isDecimalWord = true;
+        for (const char16_t c : word) {
+            const char16_t lower = FoldLower(c);
+            *at++ = lower;
+            isDecimalWord &=
+                IsDigit(lower) || lower == u'.' || lower == u'e' || lower == u'p' || lower == u'i';
         }
+        return isDecimalWord;
     }
 
     [[nodiscard]] bool IsRadixNumber(std::u16string_view word) const {
@@ -140,7 +135,6 @@ class Scanner {
     int radix_;
     std::u16string_view boundName_;
     TokenList& list_;
-    std::u16string lowerWord_;
     int parenthesisBalance_ = 0;
 };
 

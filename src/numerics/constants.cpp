@@ -101,6 +101,6 @@ constinit const QReal kTwoOverSqrtPi =
                0xC0759CF859270F11, 0x40C0000000000000});
 constinit const QReal kEuler = Number(0, {0x93C467E37DB0C7A4, 0xD1BE3F810152CB56, 0xA1CECC3AF65CC019,
                                           0x0C03DF34709AFFBD, 0x8E4B59FA03A9F0EE, 0xD065000000000000});
-constinit const QComplex kComplexOne{kOne, kZero};
+constinit const QComplex kComplexOne{Number(1, {0x8000000000000000}), QReal{}};
 
 }  // namespace quorix::constants

@@ -52,18 +52,10 @@ class Bounded {
         mpfr_t scaled;
         mpfr_init2(scaled, 64);
         switch (operation) {
-            case '+':
-                mpfr_add(result.value_, left.value_, right.value_, MPFR_RNDN);
-                break;
-            case '-':
-                mpfr_sub(result.value_, left.value_, right.value_, MPFR_RNDN);
-                break;
-            case '*':
-                mpfr_mul(result.value_, left.value_, right.value_, MPFR_RNDN);
-                break;
-            default:
-                mpfr_div(result.value_, left.value_, right.value_, MPFR_RNDN);
-                break;
+            case '+': mpfr_add(result.value_, left.value_, right.value_, MPFR_RNDN); break;
+            case '-': mpfr_sub(result.value_, left.value_, right.value_, MPFR_RNDN); break;
+            case '*': mpfr_mul(result.value_, left.value_, right.value_, MPFR_RNDN); break;
+            default: mpfr_div(result.value_, left.value_, right.value_, MPFR_RNDN); break;
         }
         if (operation == '+' || operation == '-') {
             mpfr_add(result.error_, left.error_, right.error_, MPFR_RNDU);

@@ -15,39 +15,15 @@
 #include "engine/repeat_registers.h"
 #include "engine/variable_store.h"
 #include "numerics/qcore.h"
+#include "platform/utf8.h"
 
 namespace quorix {
 
-/// UTF-8 of the basic plane to 16-bit text and back.
 inline std::u16string Wide(std::string_view utf8) {
-    std::u16string text;
-    for (std::size_t i = 0; i < utf8.size();) {
-        const auto byte = static_cast<unsigned char>(utf8[i]);
-        const std::size_t length = byte < 0x80 ? 1 : byte < 0xE0 ? 2 : 3;
-        unsigned code = byte < 0x80 ? byte : byte < 0xE0 ? byte & 0x1FU : byte & 0x0FU;
-        for (std::size_t k = 1; k < length; ++k)
-            code = code << 6U | (static_cast<unsigned char>(utf8[i + k]) & 0x3FU);
-        text.push_back(static_cast<char16_t>(code));
-        i += length;
-    }
-    return text;
+    return FromUtf8(utf8);
 }
-
 inline std::string Narrow(std::u16string_view text) {
-    std::string utf8;
-    for (const char16_t c : text) {
-        if (c < 0x80) {
-            utf8.push_back(static_cast<char>(c));
-        } else if (c < 0x800) {
-            utf8.push_back(static_cast<char>(0xC0 | c >> 6));
-            utf8.push_back(static_cast<char>(0x80 | (c & 0x3F)));
-        } else {
-            utf8.push_back(static_cast<char>(0xE0 | c >> 12));
-            utf8.push_back(static_cast<char>(0x80 | ((c >> 6) & 0x3F)));
-            utf8.push_back(static_cast<char>(0x80 | (c & 0x3F)));
-        }
-    }
-    return utf8;
+    return ToUtf8(text);
 }
 
 /// NORM text with 32 digits.

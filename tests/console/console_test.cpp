@@ -1,0 +1,275 @@
+#include <fcntl.h>
+#include <gmock/gmock.h>
+#include <pty.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <deque>
+#include <filesystem>
+#include <fstream>
+
+#include "console/batch_run.h"
+#include "console/console_options.h"
+#include "console/console_session.h"
+#include "console/prompt.h"
+#include "support/engine_fixture.h"
+
+namespace quorix {
+namespace {
+
+using testing::HasSubstr;
+using ConsoleTest = EngineTest;
+
+ParsedOptions Parse(std::vector<std::string_view> arguments) {
+    return ParseOptions(arguments);
+}
+
+TEST_F(ConsoleTest, OptionsSetWhatTheyName) {
+    const ConsoleOptions options = Parse({"--angle", "rad", "--format=sci", "--base", "16", "--word=32",
+                                          "--locale", "european", "--digits", "99", "2+", "3"})
+                                       .options;
+    EXPECT_EQ(options.angleUnit, UNIT_RADIANS);
+    EXPECT_EQ(options.result.formatId, FORMAT_SCI);
+    EXPECT_EQ(options.result.radixId, RADIX_HEX);
+    EXPECT_EQ(options.result.wordId, WORD_32);
+    EXPECT_EQ(options.result.numberLocale, u"European");
+    EXPECT_EQ(options.result.digits, 99);
+    EXPECT_EQ(options.expression, "2+ 3");
+    const ConsoleOptions fixed = Parse({"--fixed", "2"}).options;
+    EXPECT_EQ(fixed.result.formatId, FORMAT_FIX);
+    EXPECT_EQ(fixed.result.fixDigits, 2);
+    EXPECT_FALSE(fixed.expression);
+    EXPECT_EQ(Parse({"-3+5"}).options.expression, "-3+5");
+    EXPECT_EQ(Parse({"--", "--3"}).options.expression, "--3");
+    EXPECT_EQ(Parse({"-h"}).options.expression, "-h");
+    EXPECT_TRUE(Parse({"--help"}).options.showHelp);
+    EXPECT_TRUE(Parse({"--version", "1"}).options.showVersion);
+}
+
+TEST_F(ConsoleTest, WrongCommandLinesSayWhatIsWrong) {
+    const struct {
+        std::vector<std::string_view> arguments;
+        std::string_view part;
+    } rows[] = {
+        {{"--nosuch"}, "unknown option --nosuch"},
+        {{"--3+5"}, "unknown option --3+5"},
+        {{"--angle"}, "needs a value"},
+        {{"--angle", "turns"}, "\"turns\""},
+        {{"--base=7", "1"}, "\"7\""},
+        {{"--digits", "100"}, "\"100\""},
+        {{"--digits", "-1"}, "\"-1\""},
+        {{"--fixed", "2x"}, "\"2x\""},
+        {{"--word", "64"}, "\"64\""},
+        {{"--locale", ""}, "\"\""},
+        {{"--help=1"}, "unknown option"},
+    };
+    for (const auto& row : rows) EXPECT_THAT(ParseOptions(row.arguments).error, HasSubstr(row.part));
+}
+
+std::string Answer(ConsoleSession& session, std::string_view line, bool succeeds = true) {
+    std::string answer;
+    EXPECT_EQ(session.Evaluate(line, answer), succeeds) << line;
+    return answer;
+}
+
+TEST_F(ConsoleTest, LinesAreInTheDisplaysNotation) {
+    ConsoleSession session(Parse({}).options);
+    EXPECT_EQ(Answer(session, "1÷3+2"), "2.33333333333333333333333333333333");
+    EXPECT_EQ(Answer(session, "3×(5−2)"), "9");
+    EXPECT_EQ(Answer(session, "[ans]*2"), "18");
+    EXPECT_EQ(Answer(session, "1/0", false), "Invalid parameter(s)");
+    EXPECT_EQ(Answer(session, "[ans]"), "18");  // An error leaves the last result.
+    EXPECT_EQ(Answer(session, "2(3)"), "6");
+    EXPECT_EQ(Answer(session, ".5+.5"), "1");
+    EXPECT_EQ(Answer(session, "1000000/3"), "333,333.333333333333333333333333333");
+    EXPECT_EQ(Answer(session, "i*(1+i)"), "-1.0000E0+i");
+    EXPECT_EQ(Answer(session, "\xFF\xFE", false), "Syntax error");
+    EXPECT_EQ(Answer(session, std::string(5000, '1'), false), "Overlength string");
+}
+
+TEST_F(ConsoleTest, SettingsShapeTheAnswer) {
+    const struct {
+        std::vector<std::string_view> arguments;
+        std::string_view line, answer;
+    } rows[] = {
+        {{"--locale", "european"}, "1234,5*2", "2.469"},
+        {{"--locale", "european"}, "1.234,5+0", "1.234,5"},  // What was printed can be entered.
+        {{"--locale", "uk", "--fixed", "2"}, "1234.5*2", "2,469.00"},
+        {{"--base", "16", "--word", "16"}, "FF+1", "0100"},
+        {{"--base", "2"}, "101+11", "00001000"},
+        {{"--format", "frac"}, "3/4+1", "1 3/4"},
+        {{"--format", "sci", "--digits", "3"}, "2/3", "6.667E-1"},
+        {{"--digits", "60"}, "1/7", "0.142857142857142857142857142857142857142857142857142857142857"},
+    };
+    for (const auto& row : rows) {
+        ConsoleSession session(ParseOptions(row.arguments).options);
+        EXPECT_EQ(Answer(session, row.line), row.answer) << row.line;
+    }
+}
+
+class Pipe {
+  public:
+    Pipe() { EXPECT_EQ(pipe(ends_), 0); }
+    ~Pipe() {
+        close(ends_[0]);
+        CloseWriter();
+    }
+    [[nodiscard]] int Reader() const { return ends_[0]; }
+    [[nodiscard]] int Writer() const { return ends_[1]; }
+    void CloseWriter() {
+        if (ends_[1] >= 0) close(ends_[1]);
+        ends_[1] = -1;
+    }
+    void Write(std::string_view text) {
+        EXPECT_EQ(write(ends_[1], text.data(), text.size()), static_cast<ssize_t>(text.size()));
+    }
+    std::string ReadAll() {
+        CloseWriter();
+        std::string text;
+        char block[4096];
+        for (ssize_t length; (length = read(ends_[0], block, sizeof block)) > 0;) {
+            text.append(block, static_cast<std::size_t>(length));
+        }
+        return text;
+    }
+
+  private:
+    int ends_[2] = {-1, -1};
+};
+
+TEST_F(ConsoleTest, BatchAnswersEachLineInOrder) {
+    ConsoleSession session(Parse({}).options);
+    Pipe input, output, errors;
+    input.Write("1+1\r\n\n   \n[ans]*3\n1+\n7");
+    input.CloseWriter();
+    EXPECT_FALSE(RunBatch(session, input.Reader(), output.Writer(), errors.Writer()));
+    EXPECT_EQ(output.ReadAll(), "2\n6\n7\n");
+    EXPECT_EQ(errors.ReadAll(), "Syntax error\n");
+    // Lines that the reading blocks cut in two.
+    const std::filesystem::path path = testing::TempDir() + "/quorix_batch_lines";
+    std::string expected;
+    {
+        std::ofstream file(path);
+        for (int i = 0; i < 20000; ++i) {
+            file << i << "+1\n";
+            expected += std::to_string(i + 1) + "\n";
+        }
+    }
+    const std::filesystem::path results = testing::TempDir() + "/quorix_batch_results";
+    const int lines = open(path.c_str(), O_RDONLY);
+    const int written = open(results.c_str(), O_RDWR | O_CREAT | O_TRUNC, 0600);
+    EXPECT_TRUE(RunBatch(session, lines, written, STDERR_FILENO));
+    close(lines);
+    close(written);
+    std::ifstream file(results);
+    std::string content{std::istreambuf_iterator<char>(file), {}};
+    std::erase(content, ',');
+    EXPECT_EQ(content, expected);
+    std::filesystem::remove(path);
+    std::filesystem::remove(results);
+}
+
+struct ProgramRun {
+    int status = -1;
+    std::string output, errors;
+};
+
+ProgramRun RunProgram(std::vector<std::string> arguments, std::string_view input) {
+    Pipe in, out, err;
+    const pid_t child = fork();
+    if (child == 0) {
+        dup2(in.Reader(), STDIN_FILENO);
+        dup2(out.Writer(), STDOUT_FILENO);
+        dup2(err.Writer(), STDERR_FILENO);
+        in.CloseWriter();
+        std::vector<char*> argv = {const_cast<char*>("quorix-calc")};
+        for (std::string& argument : arguments) argv.push_back(argument.data());
+        argv.push_back(nullptr);
+        execv(QUORIX_CALC, argv.data());
+        _exit(127);
+    }
+    in.Write(input);
+    in.CloseWriter();
+    ProgramRun run;
+    run.output = out.ReadAll();
+    run.errors = err.ReadAll();
+    waitpid(child, &run.status, 0);
+    run.status = WEXITSTATUS(run.status);
+    return run;
+}
+
+TEST_F(ConsoleTest, TheProgramTellsSuccessByItsStatus) {
+    const struct {
+        std::vector<std::string> arguments;
+        std::string_view input;
+        int status;
+        std::string_view output, errors;
+    } rows[] = {
+        {{"1÷3+2"}, "", 0, "2.33333333333333333333333333333333\n", ""},
+        {{"-3+5"}, "", 0, "2\n", ""},
+        {{"1/0"}, "", 1, "", "Invalid parameter(s)\n"},
+        {{}, "1+2\n[ans]+1\n", 0, "3\n4\n", ""},
+        {{}, "1+2\n(\n", 1, "3\n", "Syntax error\n"},
+        {{"--digits", "none"}, "", 2, "", "quorix-calc: option --digits does not take \"none\"\n"},
+        {{"--version"}, "", 0, "quorix-calc ", ""},
+        {{"--help"}, "", 0, "Usage: quorix-calc", ""},
+    };
+    for (const auto& row : rows) {
+        const ProgramRun run = RunProgram(row.arguments, row.input);
+        EXPECT_EQ(run.status, row.status) << row.output;
+        EXPECT_TRUE(run.output.starts_with(row.output)) << run.output;
+        EXPECT_TRUE(run.errors.starts_with(row.errors)) << run.errors;
+    }
+}
+
+TEST_F(ConsoleTest, ThePromptEditsAndKeepsAHistory) {
+    const std::filesystem::path home = std::filesystem::path(testing::TempDir()) / "quorix_prompt";
+    std::filesystem::remove_all(home);
+    int terminal = -1;
+    const pid_t child = forkpty(&terminal, nullptr, nullptr, nullptr);
+    if (child == 0) {
+        setenv("XDG_DATA_HOME", home.c_str(), 1);
+        setenv("TERM", "vt100", 1);
+        execl(QUORIX_CALC, "quorix-calc", static_cast<char*>(nullptr));
+        _exit(127);
+    }
+    // 21 with the 1 deleted, the line of before recalled, end of input: each typed at its prompt.
+    std::string screen;
+    std::size_t answered = 0;
+    std::deque<std::string_view> lines = {"21\b+40\r", "\x10*2\r", "\x04"};
+    char block[1024];
+    for (ssize_t length; (length = read(terminal, block, sizeof block)) > 0;) {
+        screen.append(block, static_cast<std::size_t>(length));
+        const std::size_t prompt = screen.find("> ", answered);
+        if (prompt == std::string::npos || lines.empty()) continue;
+        answered = prompt + 2;
+        EXPECT_EQ(write(terminal, lines.front().data(), lines.front().size()),
+                  static_cast<ssize_t>(lines.front().size()));
+        lines.pop_front();
+    }
+    int status = -1;
+    waitpid(child, &status, 0);
+    close(terminal);
+    EXPECT_EQ(status, 0);
+    EXPECT_THAT(screen, HasSubstr("\n42\r\n"));
+    EXPECT_THAT(screen, HasSubstr("\n82\r\n"));
+    std::ifstream file(home / "quorix" / "history");
+    const std::string history{std::istreambuf_iterator<char>(file), {}};
+    EXPECT_THAT(history, HasSubstr("2+40\n"));
+    EXPECT_THAT(history, HasSubstr("2+40*2\n"));
+    std::filesystem::remove_all(home);
+}
+
+TEST_F(ConsoleTest, TheHistoryLiesInTheDataFolder) {
+    setenv("XDG_DATA_HOME", "/data", 1);
+    EXPECT_EQ(HistoryPath(), "/data/quorix/history");
+    setenv("XDG_DATA_HOME", "relative", 1);
+    setenv("HOME", "/home/user", 1);
+    EXPECT_EQ(HistoryPath(), "/home/user/.local/share/quorix/history");
+    unsetenv("XDG_DATA_HOME");
+    unsetenv("HOME");
+    EXPECT_EQ(HistoryPath(), "");
+}
+
+}  // namespace
+}  // namespace quorix
