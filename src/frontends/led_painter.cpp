@@ -80,7 +80,7 @@ struct MarkText {
 constexpr MarkText kMarkTexts[] = {
     {FORMAT_FIX, "FIX"}, {FORMAT_NORM, "NORM"}, {FORMAT_SCI, "SCI"}, {FORMAT_FRAC, "FRAC"},
     {WORD_8, "8 bit"},   {WORD_16, "16 bit"},   {WORD_32, "32 bit"},  //
-    {ANGLE_DEG, "DEG"},  {ANGLE_RAD, "RAD"},    {ANGLE_GRAD, "GRA"},   //
+    {ANGLE_DEG, "DEG"},  {ANGLE_RAD, "RAD"},    {ANGLE_GRAD, "GRA"},  //
     {RADIX_BIN, "BIN"},  {RADIX_OCT, "OCT"},    {RADIX_DEC, "DEC"},  {RADIX_HEX, "HEX"},
 };
 
@@ -246,7 +246,8 @@ void LedPainter::PaintResult(QPainter& painter, const CLedDisplay& display, int 
     if (display.ShowsEquals()) {
         painter.setFont(ScreenFont(kEqualsFont, scale));
         const Rect mark = DisplayPartRect(DisplayPart::equalsMark, scale);
-        painter.drawText(QPointF(mark.left + kMarkInset * scale, BaselineOf(kEqualsBaseline, scale)), QStringLiteral("="));
+        painter.drawText(QPointF(mark.left + kMarkInset * scale, BaselineOf(kEqualsBaseline, scale)),
+                         QStringLiteral("="));
     }
     const std::u16string& result = display.GetResultText();
     if (result.empty()) {
