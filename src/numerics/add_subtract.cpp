@@ -14,7 +14,7 @@ using limbs::Mantissa;
 constexpr int kLargestAlignment = 337;
 
 // Both operands are non-zero. Sums round halves upward; differences drop the guard word.
-inline Unpacked AddNonZero(const Unpacked& a, const Unpacked& b) {
+[[gnu::always_inline]] inline Unpacked AddNonZero(const Unpacked& a, const Unpacked& b) {
     const Unpacked* larger = &b;
     const Unpacked* smaller = &a;
     int alignment = b.exponent - a.exponent;
@@ -26,12 +26,16 @@ inline Unpacked AddNonZero(const Unpacked& a, const Unpacked& b) {
     Unpacked result = *larger;
     Mantissa aligned = smaller->mantissa;
     if (alignment != 0) {
-        limbs::ShiftRight(aligned, static_cast<unsigned>(alignment));
+        if (alignment < limbs::kLimbBits) {
+            limbs::ShiftRight(aligned, static_cast<unsigned>(alignment));
+        } else {
+            aligned = limbs::ShiftedRight(aligned, static_cast<unsigned>(alignment));
+        }
         aligned[0] &= limbs::kGuardMask;
     }
     if (a.sign == b.sign) {
         if (limbs::Add(result.mantissa, aligned) != 0) {
-            limbs::ShiftRightOne(result.mantissa);
+            limbs::ShiftRight(result.mantissa, 1);
             result.mantissa[kLimbs - 1] |= limbs::kTopBit;
             ++result.exponent;
         }

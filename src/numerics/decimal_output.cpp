@@ -81,7 +81,7 @@ int TakeIntegerPart(const Unpacked& number, Mantissa& fraction) {
     const int bits = number.exponent - kBias;
     fraction = number.mantissa;
     if (bits <= 0) {
-        limbs::ShiftRight(fraction, static_cast<unsigned>(-bits));
+        fraction = limbs::ShiftedRight(fraction, static_cast<unsigned>(-bits));
         return 0;
     }
     limbs::ShiftLeft(fraction, static_cast<unsigned>(bits));

@@ -26,15 +26,18 @@ DoubleLimb Join(Limb high, Limb low) {
 
 // The upper three limbs of a product, too small by less than 4 units.
 inline ThreeLimbs UpperProduct(const ThreeLimbs& a, const ThreeLimbs& b) {
+    const DoubleLimb p12 = Product(a[1], b[2]), p21 = Product(a[2], b[1]), p22 = Product(a[2], b[2]);
     Column column;
-    for (std::size_t i = 0; i < 3; ++i) column.AddLimb(High(Product(a[i], b[2 - i])));
-    column.Add(Product(a[1], b[2]));
-    column.Add(Product(a[2], b[1]));
+    limbs::Unrolled<3>([&](auto i) { column.Add(High(Product(a[i], b[2 - i]))); });
+    column.Add(Low(p12));
+    column.Add(Low(p21));
     ThreeLimbs product;
     product[0] = column.Next();
-    column.Add(Product(a[2], b[2]));
+    column.Add(High(p12));
+    column.Add(High(p21));
+    column.Add(Low(p22));
     product[1] = column.Next();
-    product[2] = column.low;
+    product[2] = Low(column.sum) + High(p22);
     return product;
 }
 
@@ -56,16 +59,15 @@ inline DoubleLimb ReciprocalOfTwoLimbs(const Mantissa& d) {
 inline ThreeLimbs Reciprocal(const Mantissa& d) {
     const DoubleLimb x = ReciprocalOfTwoLimbs(d);
     const Limb upper = High(x), lower = Low(x);
+    const DoubleLimb u3 = Product(upper, d[3]), u4 = Product(upper, d[4]);
+    const DoubleLimb l4 = Product(lower, d[4]), l5 = Product(lower, d[5]);
     Column column;
-    column.AddLimb(High(Product(upper, d[2])));
-    column.AddLimb(High(Product(lower, d[3])));
-    column.Add(Product(upper, d[3]));
-    column.Add(Product(lower, d[4]));
+    for (const Limb limb : {High(Product(upper, d[2])), High(Product(lower, d[3])), Low(u3), Low(l4)})
+        column.Add(limb);
     const Limb dx2 = column.Next();
-    column.Add(Product(upper, d[4]));
-    column.Add(Product(lower, d[5]));
+    for (const Limb limb : {High(u3), High(l4), Low(u4), Low(l5)}) column.Add(limb);
     const Limb dx3 = column.Next();
-    const Limb dx4 = column.low + Low(Product(upper, d[5]));
+    const Limb dx4 = Low(column.sum) + High(u4) + High(l5) + upper * d[5];
     unsigned char borrow = 0;
     const Limb e2 = SubtractWithBorrow(0, dx2, borrow);
     const Limb e3 = SubtractWithBorrow(0, dx3, borrow);
@@ -87,15 +89,18 @@ inline Mantissa Quotient(const Mantissa& n, const Mantissa& d) {
     const ThreeLimbs x = Reciprocal(d);
     const ThreeLimbs q = UpperProduct({n[3], n[4], n[5]}, x);
     // Limbs 3 to 6 of q d; the remainder n - q d is below 2^-187, so that nothing above counts.
-    Column column;
-    for (std::size_t i = 0; i < 3; ++i) column.AddLimb(High(Product(q[i], d[2 - i])));
-    for (std::size_t i = 0; i < 3; ++i) column.Add(Product(q[i], d[3 - i]));
-    const Limb qd3 = column.Next();
-    for (std::size_t i = 0; i < 3; ++i) column.Add(Product(q[i], d[4 - i]));
-    const Limb qd4 = column.Next();
-    for (std::size_t i = 0; i < 3; ++i) column.Add(Product(q[i], d[5 - i]));
-    const Limb qd5 = column.Next();
-    const Limb qd6 = column.low + q[1] * d[5] + q[2] * d[4];
+    std::array<DoubleLimb, 4> columns{};
+    limbs::Unrolled<3>([&](auto i) { columns[0] += High(Product(q[i], d[2 - i])); });
+    limbs::Unrolled<3>([&](auto k) {
+        limbs::Unrolled<3>([&](auto i) {
+            const DoubleLimb p = Product(q[i], d[3 + k - i]);
+            columns[k] += Low(p);
+            columns[k + 1] += High(p);
+        });
+        columns[k + 1] += High(columns[k]);
+    });
+    const Limb qd3 = Low(columns[0]), qd4 = Low(columns[1]), qd5 = Low(columns[2]);
+    const Limb qd6 = Low(columns[3]) + q[1] * d[5] + q[2] * d[4];
     unsigned char borrow = 0;
     const Limb r3 = SubtractWithBorrow(n[0] >> 1 | n[1] << 63, qd3, borrow);
     const Limb r4 = SubtractWithBorrow(n[1] >> 1 | n[2] << 63, qd4, borrow);
@@ -156,7 +161,7 @@ Mantissa QuotientByShortDivision(Mantissa dividend, Limb divisor) {
 }
 
 // Both operands are non-zero.
-inline Unpacked DivideNonZero(const Unpacked& dividend, const Unpacked& divisor) {
+[[gnu::always_inline]] inline Unpacked DivideNonZero(const Unpacked& dividend, const Unpacked& divisor) {
     Unpacked result;
     result.sign = dividend.sign ^ divisor.sign;
     result.mantissa = Quotient(dividend.mantissa, divisor.mantissa);

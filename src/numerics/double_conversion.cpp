@@ -36,9 +36,8 @@ double qtoe(const QReal& a) {
     const int exponent = a.words[1] - kExponentOffset;
     // The smallest subnormal is 2^-51 of the smallest normal number; half of it may still round up.
     if (a.IsZero() || exponent < -kFractionBits) return std::bit_cast<double>(sign);
-    limbs::Mantissa m;
-    limbs::Load(a, m);
-    Limb rest = m[4] | m[3] | m[2] | m[1] | m[0];
+    const limbs::Mantissa m = limbs::Load(a);
+    const Limb rest = m[4] | m[3] | m[2] | m[1] | m[0];
     // Bits that the fraction and the hidden bit do not take; below exponent 1 they are fewer.
     const int dropped = 63 - kFractionBits + (exponent > 0 ? 0 : 1 - exponent);
     Limb kept = 0;

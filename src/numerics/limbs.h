@@ -3,11 +3,13 @@
 // Mantissas as six 64-bit limbs: the form in which the core computes. Internal to the number core and its
 // functions.
 
+#include <algorithm>
 #include <array>
 #include <bit>
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
+#include <type_traits>
+#include <utility>
 
 #if defined(__x86_64__)
 #include <immintrin.h>
@@ -72,31 +74,27 @@ inline Limb Low(DoubleLimb a) {
     return static_cast<Limb>(a);
 }
 
-/// Sum of products of one column, three limbs long.
+/// Sum of the limbs of one column, and the carry into the next.
 struct Column {
-    Limb low = 0, middle = 0, high = 0;
+    DoubleLimb sum = 0;
 
-    void Add(DoubleLimb product) {
-        unsigned char carry = 0;
-        low = AddWithCarry(low, Low(product), carry);
-        middle = AddWithCarry(middle, High(product), carry);
-        high += carry;
-    }
-    void AddLimb(Limb limb) {
-        unsigned char carry = 0;
-        low = AddWithCarry(low, limb, carry);
-        middle = AddWithCarry(middle, 0, carry);
-        high += carry;
-    }
-    /// Gives the lowest limb and moves to the next column.
+    void Add(Limb limb) { sum += limb; }
+    /// Gives the column's limb and moves to the next column.
     Limb Next() {
-        const Limb result = low;
-        low = middle;
-        middle = high;
-        high = 0;
+        const Limb result = Low(sum);
+        sum >>= kLimbBits;
         return result;
     }
 };
+
+/// Calls f with the constants 0 to N - 1. Constant indices keep the limbs in registers, which loops do not.
+template <std::size_t N, class F>
+inline void Unrolled(F&& f) {
+    [&]<std::size_t... I>(std::index_sequence<I...>) {
+        (f(std::integral_constant<std::size_t, I>{}), ...);
+    }
+    (std::make_index_sequence<N>{});
+}
 
 /// The four 16-bit lanes of a limb in the opposite order.
 inline Limb ReverseLanes(Limb limb) {
@@ -105,56 +103,90 @@ inline Limb ReverseLanes(Limb limb) {
     return (limb & kLowLanes) << 16 | (limb >> 16 & kLowLanes);
 }
 
-inline void Load(const QReal& a, Mantissa& m) {
+#if defined(__SSE2__)
+
+/// Reverses the lanes in both halves of eight words.
+inline __m128i ReverseLanes(__m128i words) {
+    return _mm_shufflehi_epi16(_mm_shufflelo_epi16(words, 0x1B), 0x1B);
+}
+
+inline Limb LowHalf(__m128i a) {
+    return static_cast<Limb>(_mm_cvtsi128_si64(a));
+}
+
+inline Mantissa Load(const QReal& a) {
+    const auto* words = a.words.data();
+    const __m128i first = ReverseLanes(_mm_loadu_si128(reinterpret_cast<const __m128i*>(words + 3)));
+    const __m128i second = ReverseLanes(_mm_loadu_si128(reinterpret_cast<const __m128i*>(words + 11)));
+    const __m128i third = ReverseLanes(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(words + 19)));
+    return {Limb{words[23]} << 48,
+            LowHalf(third),
+            LowHalf(_mm_unpackhi_epi64(second, second)),
+            LowHalf(second),
+            LowHalf(_mm_unpackhi_epi64(first, first)),
+            LowHalf(first)};
+}
+
+/// Stores words 3 to 23 and drops what lies below them.
+inline void Store(const Mantissa& m, QReal& a) {
+    auto* words = a.words.data();
+    const auto pair = [](Limb low, Limb high) {
+        return ReverseLanes(_mm_set_epi64x(static_cast<long long>(high), static_cast<long long>(low)));
+    };
+    _mm_storeu_si128(reinterpret_cast<__m128i*>(words + 3), pair(m[5], m[4]));
+    _mm_storeu_si128(reinterpret_cast<__m128i*>(words + 11), pair(m[3], m[2]));
+    _mm_storel_epi64(reinterpret_cast<__m128i*>(words + 19), pair(m[1], 0));
+    words[23] = static_cast<std::uint16_t>(m[0] >> 48);
+}
+
+#else
+
+inline Mantissa Load(const QReal& a) {
+    Mantissa m;
     for (std::size_t i = 0; i + 1 < kLimbs; ++i) {
         const std::uint16_t* words = &a.words[3 + 4 * i];
-        if constexpr (std::endian::native == std::endian::little) {
-            Limb limb;
-            std::memcpy(&limb, words, sizeof limb);
-            m[kLimbs - 1 - i] = ReverseLanes(limb);
-        } else {
-            m[kLimbs - 1 - i] = Limb{words[0]} << 48 | Limb{words[1]} << 32 | Limb{words[2]} << 16 | words[3];
-        }
+        m[kLimbs - 1 - i] = Limb{words[0]} << 48 | Limb{words[1]} << 32 | Limb{words[2]} << 16 | words[3];
     }
     m[0] = Limb{a.words[23]} << 48;
+    return m;
 }
 
 /// Stores words 3 to 23 and drops what lies below them.
 inline void Store(const Mantissa& m, QReal& a) {
     for (std::size_t i = 0; i + 1 < kLimbs; ++i) {
         std::uint16_t* words = &a.words[3 + 4 * i];
-        const Limb limb = m[kLimbs - 1 - i];
-        if constexpr (std::endian::native == std::endian::little) {
-            const Limb reversed = ReverseLanes(limb);
-            std::memcpy(words, &reversed, sizeof reversed);
-        } else {
-            for (std::size_t k = 0; k < 4; ++k) words[k] = static_cast<std::uint16_t>(limb >> (48 - 16 * k));
-        }
+        for (std::size_t k = 0; k < 4; ++k)
+            words[k] = static_cast<std::uint16_t>(m[kLimbs - 1 - i] >> (48 - 16 * k));
     }
     a.words[23] = static_cast<std::uint16_t>(m[0] >> 48);
 }
 
-/// m >> count for 0 <= count < 384; bits below limb 0 are lost.
+#endif
+
+/// m >> count for 0 <= count < 64; bits below limb 0 are lost.
 inline void ShiftRight(Mantissa& m, unsigned count) {
-    std::array<Limb, 2 * kLimbs + 1> wide{};
-    for (std::size_t i = 0; i < kLimbs; ++i) wide[i] = m[i];
-    const Limb* source = &wide[count / kLimbBits];
-    const unsigned bits = count % kLimbBits;
-    for (std::size_t i = 0; i < kLimbs; ++i) {
-        m[i] = Low((DoubleLimb{source[i + 1]} << kLimbBits | source[i]) >> bits);
-    }
+    // Two plain shifts are faster than the double shift of one instruction, which processors do in many
+    // steps.
+    Unrolled<kLimbs - 1>([&](auto i) { m[i] = m[i] >> count | m[i + 1] << 1 << (kLimbBits - 1 - count); });
+    m[kLimbs - 1] >>= count;
 }
 
-inline void ShiftRightOne(Mantissa& m) {
-    for (std::size_t i = 0; i + 1 < kLimbs; ++i) m[i] = m[i] >> 1 | m[i + 1] << 63;
-    m[kLimbs - 1] >>= 1;
+/// m >> count for 0 <= count < 384; bits below limb 0 are lost.
+inline Mantissa ShiftedRight(const Mantissa& m, unsigned count) {
+    std::array<Limb, 2 * kLimbs> wide{};
+    std::copy(m.begin(), m.end(), wide.begin());
+    Mantissa result;
+    std::copy_n(wide.begin() + count / kLimbBits, kLimbs, result.begin());
+    ShiftRight(result, count % kLimbBits);
+    return result;
 }
 
 /// m << count for 0 <= count < 64.
 inline void ShiftLeft(Mantissa& m, unsigned count) {
-    for (std::size_t i = kLimbs - 1; i > 0; --i) {
-        m[i] = High((DoubleLimb{m[i]} << kLimbBits | m[i - 1]) << count);
-    }
+    Unrolled<kLimbs - 1>([&](auto k) {
+        constexpr std::size_t i = kLimbs - 1 - k;
+        m[i] = m[i] << count | m[i - 1] >> 1 >> (kLimbBits - 1 - count);
+    });
     m[0] <<= count;
 }
 
@@ -162,12 +194,12 @@ inline void ShiftLeft(Mantissa& m, unsigned count) {
 inline int Normalise(Mantissa& m) {
     int places = 0;
     while (m[kLimbs - 1] == 0) {
-        for (std::size_t i = kLimbs - 1; i > 0; --i) m[i] = m[i - 1];
+        Unrolled<kLimbs - 1>([&](auto i) { m[kLimbs - 1 - i] = m[kLimbs - 2 - i]; });
         m[0] = 0;
         places += kLimbBits;
     }
     const int bits = std::countl_zero(m[kLimbs - 1]);
-    if (bits != 0) ShiftLeft(m, static_cast<unsigned>(bits));
+    ShiftLeft(m, static_cast<unsigned>(bits));
     return places + bits;
 }
 
@@ -178,31 +210,52 @@ inline bool IsZero(const Mantissa& m) {
 /// m += b; gives the carry out.
 inline unsigned char Add(Mantissa& m, const Mantissa& b) {
     unsigned char carry = 0;
-    for (std::size_t i = 0; i < kLimbs; ++i) m[i] = AddWithCarry(m[i], b[i], carry);
+    Unrolled<kLimbs>([&](auto i) { m[i] = AddWithCarry(m[i], b[i], carry); });
     return carry;
 }
 
 /// m -= b; gives the borrow out.
 inline unsigned char Subtract(Mantissa& m, const Mantissa& b) {
     unsigned char borrow = 0;
-    for (std::size_t i = 0; i < kLimbs; ++i) m[i] = SubtractWithBorrow(m[i], b[i], borrow);
+    Unrolled<kLimbs>([&](auto i) { m[i] = SubtractWithBorrow(m[i], b[i], borrow); });
     return borrow;
 }
 
 /// m = 1 - m as a fraction: what a borrow of Subtract left becomes the magnitude of the difference.
 inline void Negate(Mantissa& m) {
     unsigned char borrow = 0;
-    for (Limb& limb : m) limb = SubtractWithBorrow(0, limb, borrow);
+    Unrolled<kLimbs>([&](auto i) { m[i] = SubtractWithBorrow(0, m[i], borrow); });
+}
+
+/// Adds the products(i, j) of limbs i and j with i + j >= 6 to the columns of the limbs 6 to 11 that they
+/// reach, and carries from column to column.
+template <class Products>
+inline void AddUpperProducts(std::array<DoubleLimb, kLimbs>& columns, Products&& products) {
+    Unrolled<kLimbs - 1>([&](auto k) {
+        Unrolled<kLimbs - 1 - k>([&](auto n) {
+            constexpr std::integral_constant<std::size_t, kLimbs - 1 - n> i;
+            constexpr std::integral_constant<std::size_t, 1 + k + n> j;
+            const DoubleLimb product = products(i, j);
+            columns[k] += Low(product);
+            columns[k + 1] += High(product);
+        });
+        columns[k + 1] += High(columns[k]);
+    });
+}
+
+inline Mantissa LowLimbs(const std::array<DoubleLimb, kLimbs>& columns) {
+    return {Low(columns[0]), Low(columns[1]), Low(columns[2]),
+            Low(columns[3]), Low(columns[4]), Low(columns[5])};
 }
 
 /// m = m * factor + addend; gives the limb that leaves at the top.
 inline Limb MultiplyShort(Mantissa& m, Limb factor, Limb addend = 0) {
     Limb carry = addend;
-    for (Limb& limb : m) {
-        const DoubleLimb product = Product(limb, factor) + carry;
-        limb = Low(product);
+    Unrolled<kLimbs>([&](auto i) {
+        const DoubleLimb product = Product(m[i], factor) + carry;
+        m[i] = Low(product);
         carry = High(product);
-    }
+    });
     return carry;
 }
 
@@ -222,7 +275,7 @@ inline Limb DivideShort(Mantissa& m, std::uint32_t divisor, Limb remainder = 0) 
 inline int RoundHalfUp(Mantissa& m) {
     unsigned char carry = 0;
     m[0] = AddWithCarry(m[0], kHalfUnit, carry) & ~(kUnit - 1);
-    for (std::size_t i = 1; i < kLimbs && carry != 0; ++i) m[i] = AddWithCarry(m[i], 0, carry);
+    Unrolled<kLimbs - 1>([&](auto i) { m[i + 1] = AddWithCarry(m[i + 1], 0, carry); });
     if (carry != 0) m[kLimbs - 1] = kTopBit;
     return carry;
 }

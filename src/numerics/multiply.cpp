@@ -6,7 +6,6 @@
 namespace quorix {
 namespace {
 
-using limbs::Column;
 using limbs::Limb;
 using limbs::Mantissa;
 
@@ -15,15 +14,10 @@ constexpr int kBias = QReal::kExponentOfOne - 1;
 // The upper half of the product of two mantissas, too small by less than 12 units of limb 0: of the products
 // of the column below it only the upper limbs are added.
 inline Mantissa UpperProduct(const Mantissa& a, const Mantissa& b) {
-    Mantissa product;
-    Column column;
-    for (std::size_t i = 0; i < 6; ++i) column.AddLimb(limbs::High(limbs::Product(a[i], b[5 - i])));
-    for (std::size_t k = 6; k <= 10; ++k) {
-        for (std::size_t i = k - 5; i <= 5; ++i) column.Add(limbs::Product(a[i], b[k - i]));
-        product[k - 6] = column.Next();
-    }
-    product[5] = column.low;
-    return product;
+    std::array<limbs::DoubleLimb, limbs::kLimbs> columns{};
+    limbs::Unrolled<6>([&](auto i) { columns[0] += limbs::High(limbs::Product(a[i], b[5 - i])); });
+    limbs::AddUpperProducts(columns, [&](auto i, auto j) { return limbs::Product(a[i], b[j]); });
+    return limbs::LowLimbs(columns);
 }
 
 // By the rule of the words the product lacks up to 20 units of the guard word, because word products below it
@@ -37,25 +31,22 @@ inline bool RoundingIsClear(const Mantissa& normalised) {
     return rest >= kWordsLack && rest < limbs::kUnit - kLimbsLack;
 }
 
+// Brings the top bit into place, which is at most one away.
 inline int ShiftProduct(Mantissa& product) {
     if ((product[limbs::kLimbs - 1] & limbs::kTopBit) != 0) return 0;
     limbs::ShiftLeft(product, 1);
     return 1;
 }
 
-[[gnu::noinline]] int MultiplyByWords(const Mantissa& a, const Mantissa& b, Mantissa& product) {
-    product = ProductByWords(a, b);
-    return ShiftProduct(product);
-}
-
 // Both operands are non-zero.
-inline Unpacked MultiplyNonZero(const Unpacked& a, const Unpacked& b) {
+[[gnu::always_inline]] inline Unpacked MultiplyNonZero(const Unpacked& a, const Unpacked& b) {
     Unpacked result;
     result.sign = a.sign ^ b.sign;
     result.mantissa = UpperProduct(a.mantissa, b.mantissa);
     int shift = ShiftProduct(result.mantissa);
     if (!RoundingIsClear(result.mantissa)) [[unlikely]] {
-        shift = MultiplyByWords(a.mantissa, b.mantissa, result.mantissa);
+        result.mantissa = ProductByWords(a.mantissa, b.mantissa);
+        shift = ShiftProduct(result.mantissa);
     }
     result.exponent = a.exponent + b.exponent - kBias - shift + limbs::RoundHalfUp(result.mantissa);
     return result;

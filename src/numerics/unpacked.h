@@ -17,12 +17,8 @@ struct Unpacked {
 };
 
 inline Unpacked Unpack(const QReal& a) {
-    Unpacked u;
-    if (a.IsZero()) return u;
-    u.sign = a.words[0];
-    u.exponent = a.words[1];
-    limbs::Load(a, u.mantissa);
-    return u;
+    if (a.IsZero()) return {};
+    return {a.words[0], a.words[1], limbs::Load(a)};
 }
 
 inline Unpacked Negated(Unpacked a) {

@@ -1,12 +1,13 @@
 #include "numerics/word_products.h"
 
-#include <algorithm>
-
 namespace quorix {
 namespace {
 
 // Mantissa words and the guard word.
 constexpr std::size_t kWords = 22;
+
+// The step before the last one of the iteration.
+constexpr std::size_t kLongestWordStep = 16;
 
 // Words from the most significant one on, each in a wider integer so that products vectorise.
 using Words = std::array<std::uint32_t, kWords>;
@@ -47,17 +48,31 @@ Words MultiplyWords(const Words& a, const Words& b, std::size_t length) {
 
 }  // namespace
 
+// The same for 22 words, by limbs. The word pairs (i, j) with i + j <= 21 are all pairs of the upper limbs
+// but that of the lowest words of the limbs of the last column, and the three uppermost of each limb pair one
+// column further down.
 limbs::Mantissa ProductByWords(const limbs::Mantissa& a, const limbs::Mantissa& b) {
-    return ToLimbs(MultiplyWords(ToWords(a), ToWords(b), kWords));
+    std::array<limbs::DoubleLimb, limbs::kLimbs> columns{};
+    limbs::Unrolled<limbs::kLimbs>([&](auto i) {
+        const limbs::Limb x = a[i], y = b[5 - i];
+        columns[0] += ((x >> 48) * (y >> 32) << 16) + ((x >> 32 & 0xFFFF) * (y >> 48) << 16);
+    });
+    limbs::AddUpperProducts(columns, [&](auto i, auto j) {
+        limbs::DoubleLimb product = limbs::Product(a[i], b[j]);
+        if constexpr (i + j == limbs::kLimbs) product -= (a[i] & 0xFFFF) * (b[j] & 0xFFFF);
+        return product;
+    });
+    limbs::Mantissa product = limbs::LowLimbs(columns);
+    product[0] &= limbs::kGuardMask;
+    return product;
 }
 
-// With x an approximation of 1/(4d), a step is x' = 2x - 4 d x^2.
+// With x an approximation of 1/(4d), a step is x' = 2x - 4 d x^2. The shorter steps multiply words.
 limbs::Mantissa QuarterQuotientByWords(const limbs::Mantissa& dividend, const limbs::Mantissa& divisor) {
     const Words d = ToWords(divisor);
     Words x{};
     x[0] = (std::uint32_t{1} << 30) / d[0];
-    for (std::size_t length = 1; length < kWords;) {
-        length = std::min(2 * length, kWords);
+    for (std::size_t length = 2; length <= kLongestWordStep; length *= 2) {
         const Words t = MultiplyWords(MultiplyWords(x, x, length), d, length);
         std::int64_t borrow = 0;
         for (std::size_t k = length; k-- > 0;) {
@@ -66,7 +81,12 @@ limbs::Mantissa QuarterQuotientByWords(const limbs::Mantissa& dividend, const li
             borrow >>= 16;
         }
     }
-    return ToLimbs(MultiplyWords(x, ToWords(dividend), kWords));
+    limbs::Mantissa reciprocal = ToLimbs(x);
+    limbs::Mantissa t = ProductByWords(ProductByWords(reciprocal, reciprocal), divisor);
+    limbs::ShiftLeft(t, 2);
+    limbs::ShiftLeft(reciprocal, 1);
+    limbs::Subtract(reciprocal, t);
+    return ProductByWords(reciprocal, dividend);
 }
 
 }  // namespace quorix

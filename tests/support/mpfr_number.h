@@ -40,6 +40,7 @@ class MpfrNumber {
         mpz_t mantissa;
         mpz_init(mantissa);
         mpfr_get_z_2exp(mantissa, value_);
+        mpz_abs(mantissa, mantissa);
         for (std::size_t i = QReal::kWords; i-- > 3;) {
             a.words[i] = static_cast<std::uint16_t>(mpz_get_ui(mantissa) & 0xFFFF);
             mpz_fdiv_q_2exp(mantissa, mantissa, 16);
