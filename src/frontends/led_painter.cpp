@@ -16,14 +16,14 @@ namespace quorix {
 namespace {
 
 // Texts of the display. A height given for a row is that of a whole line; the em is about 0.83 of it.
-constexpr FontSpec kStatusFont = {.em = 9, .weight = kRegularWeight};
-constexpr FontSpec kNarrowStatusFont = {.em = 9, .weight = kRegularWeight, .condensed = true};
-constexpr FontSpec kPendingFont = {.em = 12.5, .weight = kRegularWeight};
-constexpr FontSpec kLineFont = {.em = 17, .weight = kMediumWeight};
-constexpr FontSpec kResultFont = {.em = 15, .weight = kMediumWeight};
-constexpr FontSpec kNarrowResultFont = {.em = 12.5, .weight = kMediumWeight, .condensed = true};
-constexpr FontSpec kBinaryFont = {.em = 10.5, .weight = kMediumWeight, .condensed = true};
-constexpr FontSpec kEqualsFont = {.em = 16.5, .weight = kBoldWeight};
+constexpr TextFont kStatusFont = {.em = 9, .weight = kRegularWeight};
+constexpr TextFont kNarrowStatusFont = {.em = 9, .weight = kRegularWeight, .condensed = true};
+constexpr TextFont kPendingFont = {.em = 12.5, .weight = kRegularWeight};
+constexpr TextFont kLineFont = {.em = 17, .weight = kMediumWeight};
+constexpr TextFont kResultFont = {.em = 15, .weight = kMediumWeight};
+constexpr TextFont kNarrowResultFont = {.em = 12.5, .weight = kMediumWeight, .condensed = true};
+constexpr TextFont kBinaryFont = {.em = 10.5, .weight = kMediumWeight, .condensed = true};
+constexpr TextFont kEqualsFont = {.em = 16.5, .weight = kBoldWeight};
 
 // Base lines from the top of the display, in units.
 constexpr double kStatusBaseline = 10.6;

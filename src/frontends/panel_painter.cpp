@@ -19,7 +19,7 @@ constexpr int kLargeLabelRows = 4;
 constexpr int kCapCorner = 8;    // Units that a cap's corners keep when it is stretched.
 constexpr int kPressedDrop = 2;  // Units that a pressed label stands lower.
 
-constexpr FontSpec kLandscapeFont = {.em = 14, .weight = kBoldWeight};
+constexpr TextFont kLandscapeFont = {.em = 14, .weight = kBoldWeight};
 
 QRect ToQRect(const Rect& rect) {
     return {rect.left, rect.top, rect.Width(), rect.Height()};

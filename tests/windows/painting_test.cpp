@@ -145,9 +145,35 @@ TEST(Screens, ShowTheWholePanelsInEveryOrientationAndSkin) {
     }
 }
 
+TEST(Screens, KeepTheirKeysApartWhenZoomed) {
+    ScreenRig rig(kPortrait2);
+    rig.calculator.Type("1/3=");
+    const QImage plain = rig.Paint();
+    for (const double zoom : {1.5, 2.0}) {
+        const QImage picture = rig.Paint(zoom);
+        KeepScreenshot(picture, "zoom-" + std::to_string(static_cast<int>(zoom * 100)));
+        // A row of pixels between two rows of keys is body from edge to edge, and no key has a seam in its
+        // face.
+        const Rect seven = CellRect(Orientation::portrait, {Panel::lower, KEY_7}).Scaled(2);
+        const auto at = [&](int x, int y) {
+            return QPoint(static_cast<int>(x * zoom), static_cast<int>(y * zoom));
+        };
+        EXPECT_EQ(picture.pixel(at(seven.left, seven.top)), plain.pixel(seven.left, seven.top));
+        const int y = at(0, seven.top + 12).y();
+        for (int x = at(seven.left + 14, 0).x(); x < at(seven.right - 14, 0).x(); ++x) {
+            EXPECT_NEAR(qGray(picture.pixel(x, y)), qGray(plain.pixel(seven.left + 14, seven.top + 12)), 3)
+                << x;
+        }
+    }
+}
+
 TEST(PanelPainter, APressedKeyIsSeenWithoutColour) {
-    for (const DeviceScreen screen : {kPortrait2, kPortrait1, kLandscape2}) {
-        ScreenRig rig(screen);
+    const std::pair<DeviceScreen, const char16_t*> screens[] = {{kPortrait2, u"default.inf"},
+                                                                {kPortrait1, u"default.inf"},
+                                                                {kLandscape2, u"default.inf"},
+                                                                {kPortrait2, u"Black Skin.inf"}};
+    for (const auto& [screen, skin] : screens) {
+        ScreenRig rig(screen, skin);
         const QImage up = rig.Paint();
         const Orientation orientation = OrientationOf(screen);
         for (const PanelCell cell :

@@ -37,7 +37,8 @@ class ScreenRig {
         led.SetTexButton(LoadImage(ResolvePath(ExecutableFolder(), tex)));
     }
 
-    [[nodiscard]] QImage Paint() {
+    /// zoom: as a window base paints on a wider desktop.
+    [[nodiscard]] QImage Paint(double zoom = 1.0) {
         const int scale = screen.Scale();
         const Orientation orientation = OrientationOf(screen);
         const FrameLayout& layout = LayoutOf(orientation);
@@ -48,8 +49,11 @@ class ScreenRig {
                                      .largeFonts = LoadImage(skin.Path(SkinPath::largeFonts))};
         panels.SetPictures(pictures);
         const Rect client = layout.client.Scaled(scale);
-        QImage picture(client.Width(), client.Height(), QImage::Format_RGB32);
+        QImage picture(static_cast<int>(client.Width() * zoom), static_cast<int>(client.Height() * zoom),
+                       QImage::Format_RGB32);
         QPainter painter(&picture);
+        painter.scale(zoom, zoom);
+        painter.setRenderHint(QPainter::SmoothPixmapTransform);
         PanelPainter::PaintBody(painter, client,
                                 {colours[SkinColour::border0], colours[SkinColour::border1],
                                  pictures.largeButtons.BackgroundColor()});
