@@ -23,16 +23,16 @@ constexpr QReal Number(int exponent, std::initializer_list<std::uint64_t> mantis
 }  // namespace
 
 // Every value is the nearest one of 336 bits.
-constinit const QReal kZero{};
-constinit const QReal kHalf = Number(0, {0x8000000000000000});
-constinit const QReal kOne = Number(1, {0x8000000000000000});
-constinit const QReal kTwo = Number(2, {0x8000000000000000});
-constinit const QReal kThree = Number(2, {0xC000000000000000});
-constinit const QReal kNine = Number(4, {0x9000000000000000});
-constinit const QReal kTen = Number(4, {0xA000000000000000});
-constinit const QReal kThirtyTwo = Number(6, {0x8000000000000000});
+constexpr QReal kZero{};
+constexpr QReal kHalf = Number(0, {0x8000000000000000});
+constexpr QReal kOne = Number(1, {0x8000000000000000});
+constexpr QReal kTwo = Number(2, {0x8000000000000000});
+constexpr QReal kThree = Number(2, {0xC000000000000000});
+constexpr QReal kNine = Number(4, {0x9000000000000000});
+constexpr QReal kTen = Number(4, {0xA000000000000000});
+constexpr QReal kThirtyTwo = Number(6, {0x8000000000000000});
 
-constinit const std::array<QReal, 13> kPowersOfTen = {
+constexpr std::array<QReal, 13> kPowersOfTen = {
     Number(13607, {0xC46052028A20979A, 0xC94C153F804A4A92, 0x65761FB2444E2267, 0xDD5CF7C945F22A3F,
                    0xFFF0D1D2E18469B1, 0xEA39000000000000}),
     Number(6804, {0x9E8B3B5DC53D5DE4, 0xA74D28CE329ACE52, 0x6A3197BBEBE3034F, 0x77154CE2BCBA1964,
@@ -54,7 +54,7 @@ constinit const std::array<QReal, 13> kPowersOfTen = {
     Number(4, {0xA000000000000000}),
 };
 
-constinit const std::array<QReal, 13> kNegativePowersOfTen = {
+constexpr std::array<QReal, 13> kNegativePowersOfTen = {
     Number(-13606, {0xA6DD04C8D2CE9FDE, 0x2DE38123A1C3CFFC, 0x20305D0244E091BA, 0x5E2D7403972F6F2B,
                     0x04E663AC16D51215, 0x9834000000000000}),
     Number(-6803, {0xCEAE534F34362DE4, 0x492512D4F2EAD2CB, 0x8263CA5CBC774BD9, 0x71AAD59046C74249,
@@ -83,24 +83,23 @@ constinit const std::array<QReal, 13> kNegativePowersOfTen = {
                 0xCCCCCCCCCCCCCCCC, 0xCCCD000000000000}),
 };
 
-constinit const QReal kLn2 = Number(0, {0xB17217F7D1CF79AB, 0xC9E3B39803F2F6AF, 0x40F343267298B62D,
-                                        0x8A0D175B8BAAFA2B, 0xE7B876206DEBAC98, 0x5595000000000000});
-constinit const QReal kLn2High = Number(0, {0xB17217F700000000});
-constinit const QReal kLn2Low = Number(-32, {0xD1CF79ABC9E3B398, 0x03F2F6AF40F34326, 0x7298B62D8A0D175B,
-                                             0x8BAAFA2BE7B87620, 0x6DEBAC98559552FB, 0x4AFA000000000000});
-constinit const QReal kSqrt2 = Number(1, {0xB504F333F9DE6484, 0x597D89B3754ABE9F, 0x1D6F60BA893BA84C,
-                                          0xED17AC8583339915, 0x4AFC83043AB8A2C3, 0xA8B2000000000000});
-constinit const QReal kSqrt2Plus1 = Number(2, {0x9A827999FCEF3242, 0x2CBEC4D9BAA55F4F, 0x8EB7B05D449DD426,
-                                               0x768BD642C199CC8A, 0xA57E41821D5C5161, 0xD459000000000000});
-constinit const QReal kSqrt2Minus1 = Number(-1, {0xD413CCCFE7799211, 0x65F626CDD52AFA7C, 0x75BD82EA24EEA133,
-                                                 0xB45EB2160CCE6455, 0x2BF20C10EAE28B0E, 0xA2C8000000000000});
-constinit const QReal kPi = Number(2, {0xC90FDAA22168C234, 0xC4C6628B80DC1CD1, 0x29024E088A67CC74,
-                                       0x020BBEA63B139B22, 0x514A08798E3404DD, 0xEF95000000000000});
-constinit const QReal kTwoOverSqrtPi =
-    Number(1, {0x906EBA8214DB688D, 0x71D48A7F6BFEC344, 0x1409A0EBAC3E7517, 0x39A15830CCE620B0,
-               0xC0759CF859270F11, 0x40C0000000000000});
-constinit const QReal kEuler = Number(0, {0x93C467E37DB0C7A4, 0xD1BE3F810152CB56, 0xA1CECC3AF65CC019,
-                                          0x0C03DF34709AFFBD, 0x8E4B59FA03A9F0EE, 0xD065000000000000});
-constinit const QComplex kComplexOne{Number(1, {0x8000000000000000}), QReal{}};
+constexpr QReal kLn2 = Number(0, {0xB17217F7D1CF79AB, 0xC9E3B39803F2F6AF, 0x40F343267298B62D,
+                                  0x8A0D175B8BAAFA2B, 0xE7B876206DEBAC98, 0x5595000000000000});
+constexpr QReal kLn2High = Number(0, {0xB17217F700000000});
+constexpr QReal kLn2Low = Number(-32, {0xD1CF79ABC9E3B398, 0x03F2F6AF40F34326, 0x7298B62D8A0D175B,
+                                       0x8BAAFA2BE7B87620, 0x6DEBAC98559552FB, 0x4AFA000000000000});
+constexpr QReal kSqrt2 = Number(1, {0xB504F333F9DE6484, 0x597D89B3754ABE9F, 0x1D6F60BA893BA84C,
+                                    0xED17AC8583339915, 0x4AFC83043AB8A2C3, 0xA8B2000000000000});
+constexpr QReal kSqrt2Plus1 = Number(2, {0x9A827999FCEF3242, 0x2CBEC4D9BAA55F4F, 0x8EB7B05D449DD426,
+                                         0x768BD642C199CC8A, 0xA57E41821D5C5161, 0xD459000000000000});
+constexpr QReal kSqrt2Minus1 = Number(-1, {0xD413CCCFE7799211, 0x65F626CDD52AFA7C, 0x75BD82EA24EEA133,
+                                           0xB45EB2160CCE6455, 0x2BF20C10EAE28B0E, 0xA2C8000000000000});
+constexpr QReal kPi = Number(2, {0xC90FDAA22168C234, 0xC4C6628B80DC1CD1, 0x29024E088A67CC74,
+                                 0x020BBEA63B139B22, 0x514A08798E3404DD, 0xEF95000000000000});
+constexpr QReal kTwoOverSqrtPi = Number(1, {0x906EBA8214DB688D, 0x71D48A7F6BFEC344, 0x1409A0EBAC3E7517,
+                                            0x39A15830CCE620B0, 0xC0759CF859270F11, 0x40C0000000000000});
+constexpr QReal kEuler = Number(0, {0x93C467E37DB0C7A4, 0xD1BE3F810152CB56, 0xA1CECC3AF65CC019,
+                                    0x0C03DF34709AFFBD, 0x8E4B59FA03A9F0EE, 0xD065000000000000});
+constexpr QComplex kComplexOne{kOne, kZero};
 
 }  // namespace quorix::constants

@@ -227,25 +227,29 @@ inline void Negate(Mantissa& m) {
     Unrolled<kLimbs>([&](auto i) { m[i] = SubtractWithBorrow(0, m[i], borrow); });
 }
 
-/// Adds the products(i, j) of limbs i and j with i + j >= 6 to the columns of the limbs 6 to 11 that they
-/// reach, and carries from column to column.
+/// Limbs 6 to 11 of a product: the sum of products(i, j) of limbs i and j with i + j >= 6 and of what the
+/// columns below bring into limb 6 and higher.
 template <class Products>
-inline void AddUpperProducts(std::array<DoubleLimb, kLimbs>& columns, Products&& products) {
+inline Mantissa UpperLimbs(DoubleLimb fromBelow, Products&& products) {
+    Mantissa result;
+    Limb low = Low(fromBelow), middle = High(fromBelow), high = 0;
     Unrolled<kLimbs - 1>([&](auto k) {
         Unrolled<kLimbs - 1 - k>([&](auto n) {
             constexpr std::integral_constant<std::size_t, kLimbs - 1 - n> i;
             constexpr std::integral_constant<std::size_t, 1 + k + n> j;
             const DoubleLimb product = products(i, j);
-            columns[k] += Low(product);
-            columns[k + 1] += High(product);
+            unsigned char carry = 0;
+            low = AddWithCarry(low, Low(product), carry);
+            middle = AddWithCarry(middle, High(product), carry);
+            high = AddWithCarry(high, 0, carry);
         });
-        columns[k + 1] += High(columns[k]);
+        result[k] = low;
+        low = middle;
+        middle = high;
+        high = 0;
     });
-}
-
-inline Mantissa LowLimbs(const std::array<DoubleLimb, kLimbs>& columns) {
-    return {Low(columns[0]), Low(columns[1]), Low(columns[2]),
-            Low(columns[3]), Low(columns[4]), Low(columns[5])};
+    result[kLimbs - 1] = low;
+    return result;
 }
 
 /// m = m * factor + addend; gives the limb that leaves at the top.

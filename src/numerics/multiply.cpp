@@ -14,10 +14,9 @@ constexpr int kBias = QReal::kExponentOfOne - 1;
 // The upper half of the product of two mantissas, too small by less than 12 units of limb 0: of the products
 // of the column below it only the upper limbs are added.
 inline Mantissa UpperProduct(const Mantissa& a, const Mantissa& b) {
-    std::array<limbs::DoubleLimb, limbs::kLimbs> columns{};
-    limbs::Unrolled<6>([&](auto i) { columns[0] += limbs::High(limbs::Product(a[i], b[5 - i])); });
-    limbs::AddUpperProducts(columns, [&](auto i, auto j) { return limbs::Product(a[i], b[j]); });
-    return limbs::LowLimbs(columns);
+    limbs::DoubleLimb fromBelow = 0;
+    limbs::Unrolled<6>([&](auto i) { fromBelow += limbs::High(limbs::Product(a[i], b[5 - i])); });
+    return limbs::UpperLimbs(fromBelow, [&](auto i, auto j) { return limbs::Product(a[i], b[j]); });
 }
 
 // By the rule of the words the product lacks up to 20 units of the guard word, because word products below it

@@ -52,17 +52,16 @@ Words MultiplyWords(const Words& a, const Words& b, std::size_t length) {
 // but that of the lowest words of the limbs of the last column, and the three uppermost of each limb pair one
 // column further down.
 limbs::Mantissa ProductByWords(const limbs::Mantissa& a, const limbs::Mantissa& b) {
-    std::array<limbs::DoubleLimb, limbs::kLimbs> columns{};
+    limbs::DoubleLimb fromBelow = 0;
     limbs::Unrolled<limbs::kLimbs>([&](auto i) {
         const limbs::Limb x = a[i], y = b[5 - i];
-        columns[0] += ((x >> 48) * (y >> 32) << 16) + ((x >> 32 & 0xFFFF) * (y >> 48) << 16);
+        fromBelow += ((x >> 48) * (y >> 32) << 16) + ((x >> 32 & 0xFFFF) * (y >> 48) << 16);
     });
-    limbs::AddUpperProducts(columns, [&](auto i, auto j) {
-        limbs::DoubleLimb product = limbs::Product(a[i], b[j]);
-        if constexpr (i + j == limbs::kLimbs) product -= (a[i] & 0xFFFF) * (b[j] & 0xFFFF);
-        return product;
+    limbs::Mantissa product = limbs::UpperLimbs(fromBelow, [&](auto i, auto j) {
+        limbs::DoubleLimb pair = limbs::Product(a[i], b[j]);
+        if constexpr (i + j == limbs::kLimbs) pair -= (a[i] & 0xFFFF) * (b[j] & 0xFFFF);
+        return pair;
     });
-    limbs::Mantissa product = limbs::LowLimbs(columns);
     product[0] &= limbs::kGuardMask;
     return product;
 }

@@ -30,12 +30,12 @@ void Store(const Register& r, QReal& a) {
 }
 
 void ShiftDownOne(Register& r) {
-    for (int i = 24; i > 2; --i) r[i] = static_cast<std::uint16_t>(r[i] >> 1 | r[i - 1] << 15);
+    for (std::size_t i = 24; i > 2; --i) r[i] = static_cast<std::uint16_t>(r[i] >> 1 | r[i - 1] << 15);
     r[2] >>= 1;
 }
 
 void ShiftUpOne(Register& r) {
-    for (int i = 2; i < 24; ++i) r[i] = static_cast<std::uint16_t>(r[i] << 1 | r[i + 1] >> 15);
+    for (std::size_t i = 2; i < 24; ++i) r[i] = static_cast<std::uint16_t>(r[i] << 1 | r[i + 1] >> 15);
     r[24] = static_cast<std::uint16_t>(r[24] << 1);
 }
 
@@ -60,7 +60,7 @@ int Normalise(Register& r) {
 }
 
 void AddOne(Register& r) {
-    for (int i = 23; i >= 2 && ++r[i] == 0; --i) {
+    for (std::size_t i = 23; i >= 2 && ++r[i] == 0; --i) {
     }
 }
 
@@ -94,6 +94,11 @@ void Overflow(const char* name, std::uint16_t sign, QReal& c) {
     qinfin(c);
 }
 
+// Bit i of the mantissa, from the top.
+bool Bit(const QReal& a, int i) {
+    return (a.words[static_cast<std::size_t>(3 + i / 16)] & 0x8000 >> i % 16) != 0;
+}
+
 bool HasOneWord(const QReal& a) {
     return std::all_of(a.words.begin() + 4, a.words.end(), [](int w) { return w == 0; });
 }
@@ -116,7 +121,7 @@ void AddCore(Register a, Register b, QReal& c) {
     }
     const bool isAddition = a[0] == b[0];
     std::int32_t carry = 0;
-    for (int i = 24; i >= 2; --i) {
+    for (std::size_t i = 24; i >= 2; --i) {
         carry += isAddition ? b[i] + a[i] : b[i] - a[i];
         b[i] = static_cast<std::uint16_t>(carry);
         carry >>= 16;
@@ -137,21 +142,20 @@ void AddCore(Register a, Register b, QReal& c) {
 }
 
 // Sum of the word products whose upper half reaches the first `n` words, cut to `n` words from word 3 on.
-Register MultiplyWords(const Register& a, const Register& b, int n) {
+Register MultiplyWords(const Register& a, const Register& b, std::size_t n) {
     std::array<std::uint64_t, 24> columns{};
-    for (int i = 0; i < n; ++i) {
-        for (int j = 0; i + j < n; ++j) {
+    for (std::size_t i = 0; i < n; ++i) {
+        for (std::size_t j = 0; i + j < n; ++j) {
             const std::uint32_t product = std::uint32_t{a[3 + i]} * b[3 + j];
             columns[i + j + 1] += product & 0xFFFF;
             columns[i + j] += product >> 16;
         }
     }
     Register c{};
-    std::uint64_t carry = 0;
-    for (int k = n; k >= 0; --k) {
+    std::uint64_t carry = columns[n] >> 16;
+    for (std::size_t k = n; k-- > 0; carry >>= 16) {
         carry += columns[k];
-        if (k < n) c[3 + k] = static_cast<std::uint16_t>(carry);
-        carry >>= 16;
+        c[3 + k] = static_cast<std::uint16_t>(carry);
     }
     return c;
 }
@@ -159,7 +163,7 @@ Register MultiplyWords(const Register& a, const Register& b, int n) {
 Register MultiplyByWord(std::uint16_t factor, const Register& b) {
     Register c{};
     std::uint32_t carry = 0;
-    for (int i = 23; i >= 3; --i) {
+    for (std::size_t i = 23; i >= 3; --i) {
         carry += std::uint32_t{b[i]} * factor;
         c[i + 1] = static_cast<std::uint16_t>(carry);
         carry >>= 16;
@@ -195,14 +199,14 @@ Register ShortDivision(std::uint16_t divisor, Register b) {
 Register NewtonDivision(const Register& divisor, const Register& dividend) {
     Register x{};
     x[3] = static_cast<std::uint16_t>((1u << 30) / divisor[3]);
-    for (int n = 1; n < 22;) {
-        n = std::min(2 * n, 22);
+    for (std::size_t n = 1; n < 22;) {
+        n = std::min<std::size_t>(2 * n, 22);
         Register t = MultiplyWords(MultiplyWords(x, x, n), divisor, n);
         ShiftUpOne(t);
         ShiftUpOne(t);
         ShiftUpOne(x);
         std::int32_t borrow = 0;
-        for (int i = 24; i >= 2; --i) {
+        for (std::size_t i = 24; i >= 2; --i) {
             borrow += x[i] - t[i];
             x[i] = static_cast<std::uint16_t>(borrow);
             borrow >>= 16;
@@ -370,7 +374,7 @@ void Floor(const QReal& a, QReal& b) {
     if (a.IsZero()) return qclear(b);
     if (bits >= kBits) return qmov(a, b);
     QReal floor = a;
-    for (int i = std::max(bits, 0); i < kBits; ++i)
+    for (auto i = static_cast<std::size_t>(std::max(bits, 0)); i < kBits; ++i)
         floor.words[3 + i / 16] &= static_cast<std::uint16_t>(~(0x8000 >> i % 16));
     if (bits <= 0) qclear(floor);
     if (a.IsNegative() && floor != a) Subtract(constants::kOne, floor, floor);
@@ -383,8 +387,7 @@ void Round(const QReal& a, QReal& b) {
     Subtract(floor, a, rest);
     const int order = Compare(rest, constants::kHalf);
     const int bits = floor.words[1] - kBias;
-    const bool isOdd =
-        bits > 0 && bits <= kBits && (floor.words[3 + (bits - 1) / 16] & 0x8000 >> (bits - 1) % 16);
+    const bool isOdd = bits > 0 && bits <= kBits && Bit(floor, bits - 1);
     if (order > 0 || (order == 0 && isOdd)) Add(floor, constants::kOne, floor);
     b = floor;
 }
@@ -394,7 +397,7 @@ void FromDouble(double d, QReal& a) {
     const int biased = static_cast<int>(bits >> 52 & 0x7FF);
     const std::uint64_t mantissa = (bits & 0xFFFFFFFFFFFFF) | (biased ? 1ull << 52 : 0);
     Register r{};
-    for (int i = 0; i < 4; ++i) r[3 + i] = static_cast<std::uint16_t>(mantissa >> (48 - 16 * i));
+    for (std::size_t i = 0; i < 4; ++i) r[3 + i] = static_cast<std::uint16_t>(mantissa >> (48 - 16 * i));
     const int count = Normalise(r);
     if (mantissa == 0) return qclear(a);
     r[0] = bits >> 63 ? QReal::kNegative : 0;
@@ -410,7 +413,7 @@ double ToDouble(const QReal& a) {
     const int digits = exponent > 0 ? 53 : 52 + exponent;
     bool round = false, sticky = false;
     for (int i = 0; i < kBits; ++i) {
-        const bool bit = a.words[3 + i / 16] & 0x8000 >> i % 16;
+        const bool bit = Bit(a, i);
         if (i < digits) kept = kept << 1 | bit;
         if (i == digits) round = bit;
         if (i > digits) sticky |= bit;
