@@ -20,7 +20,7 @@ constexpr double kDegreeRise = 0.40;
 constexpr double kRootWidth = 0.50;
 constexpr double kRootTop = 0.86;
 constexpr double kRootOverhang = 0.06;
-constexpr double kDegreeOverlap = 0.14;
+constexpr double kDegreeOverlap = 0.08;
 constexpr double kBarWeight = 0.1;
 constexpr double kSignWeight = 0.09;
 

@@ -26,7 +26,7 @@ struct PadSizes {
 };
 
 constexpr PadSizes kPortrait = {34, 16.5, 21, 24, 18, 23, 16, 26.4, 9, 9.5, 14, 19.5};
-constexpr PadSizes kSquare = {22, 10.5, 16, 16, 14, 15.4, 11, 18.9, 8, 7.5, 10, 15.5};
+constexpr PadSizes kSquare = {22, 10.5, 16, 16, 14, 15.4, 11, 18.9, 8, 7.5, 11, 15.5};
 
 constexpr double kStrokePart = 1.0 / 7;  // Of a bar's length: two units on 14.
 

@@ -1,5 +1,6 @@
 #include <QPainterPath>
 
+#include "frontends/categories.h"
 #include "icons.h"
 #include "label_layout.h"
 #include "strips.h"
@@ -17,6 +18,7 @@ constexpr double kLabelHeight = 20;
 constexpr double kLabelEm = 9;
 constexpr double kFirstBaseline = 8;
 constexpr double kSecondBaseline = 17;
+constexpr double kMaxLabelWidth = kTileWidth - 2;
 
 IconColors SheetColors(const Palette& palette) {
     return {palette.Color("sheet.ink"), palette.Color("sheet.accent")};
@@ -25,32 +27,23 @@ IconColors ChosenColors(const Palette& palette) {
     return {palette.Color("chosen.ink"), palette.Color("chosen.accent")};
 }
 
-/// The name of a category as it is broken on its tile.
+/// A category's name on its tile: on one line when it fits, else broken at its first blank.
 struct TileLabel {
     std::u16string_view first;
     std::u16string_view second;
 };
 
-/// In the order of the category ids.
-constexpr TileLabel kTileLabels[] = {
-    {u"Arithmetic", u""},
-    {u"Trigonometry", u""},
-    {u"Base", u"conversion"},
-    {u"Statistics", u""},
-    {u"Matrix", u""},
-    {u"Finance", u""},
-    {u"Tip", u""},
-    {u"Unit", u"converter"},
-    {u"Currency", u"converter"},
-    {u"Constants", u""},
-    {u"Biorythm", u""},
-    {u"User's", u"macros"},
-    {u"Equation", u"solver"},
-    {u"Function", u"graph"},
-    {u"Date - Time", u""},
-    {u"Formulas", u""},
-};
-static_assert(std::size(kTileLabels) == std::size(kCategoryIcons), "a label and an icon for each category");
+TileLabel BreakName(std::u16string_view name, const Tools& tools, int scale) {
+    const QString text = QString::fromUtf16(name.data(), static_cast<qsizetype>(name.size()));
+    const double width = tools.typeface.Width(text, Face::kMedium, kLabelEm * scale, scale);
+    const std::size_t blank = name.find(u' ');
+    if (width <= kMaxLabelWidth * scale || blank == name.npos) {
+        return {name, {}};
+    }
+    return {name.substr(0, blank), name.substr(blank + 1)};
+}
+
+static_assert(std::size(kCategoryIcons) == kCategoryCount, "an icon for each category");
 
 }  // namespace
 
@@ -69,13 +62,14 @@ void DrawCategoryLabels(Picture& picture, const Tools& tools) {
     const QColor rows[] = {tools.palette.Color("sheet.ink"), tools.palette.Color("chosen.ink")};
     for (int row = 0; row < 2; ++row) {
         double left = 0;
-        for (const TileLabel& label : kTileLabels) {
+        for (const std::u16string_view name : kCategoryNames) {
+            const TileLabel label = BreakName(name, tools, picture.Scale());
             const QPointF origin(left, row * kLabelHeight);
             LabelText text = {.markup = label.first,
                               .em = kLabelEm,
                               .baseline = kFirstBaseline,
                               .centre = kTileWidth / 2,
-                              .maxWidth = kTileWidth - 2};
+                              .maxWidth = kMaxLabelWidth};
             LayLabel(picture, tools.typeface, origin, text, rows[row]);
             text.markup = label.second;
             text.baseline = kSecondBaseline;

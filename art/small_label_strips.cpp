@@ -29,7 +29,7 @@ constexpr QPointF kChooserCaretAt(16.2, 0);
 constexpr QPointF kWordCaretAt(16.5, 4.75);
 constexpr double kWordWithCaretMiddle = 13.5;
 
-constexpr IconStroke kCaret[] = {{Ink::kMain, 1.5, "M9.4 10.7 L12 13.3 L14.6 10.7"}};
+constexpr IconStroke kCaret[] = {{Ink::kMain, 1.4, "M9.4 10.7 L12 13.3 L14.6 10.7"}};
 constexpr double kIconGrid = 24;
 
 const char* StyleOfCell(int cell) {

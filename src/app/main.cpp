@@ -1,3 +1,40 @@
-int main() {
-    return 0;
+// Composition root of the windowed calculator.
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QTimer>
+#include <iostream>
+
+#include "platform/program_folder.h"
+#include "platform/qt/fonts.h"
+#include "shell/main_frame_wnd.h"
+
+namespace {
+
+/// A start nobody watches must not hang on its message.
+constexpr int kMessageMs = 15000;
+
+int EndStart(const std::filesystem::path& skin) {
+    const std::string message = "The skin file " + skin.string() + " cannot be read.";
+    std::cerr << "quorix: " << message << std::endl;
+    QMessageBox box(QMessageBox::Critical, QStringLiteral("Quorix"), QString::fromStdString(message));
+    QTimer::singleShot(kMessageMs, &box, &QDialog::accept);
+    box.exec();
+    return 1;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Quorix"));
+    const std::filesystem::path installed = quorix::ExecutableFolder();
+    quorix::LoadShippedFonts(installed / "fonts");
+    QApplication::setFont(quorix::ScreenFont({}, 1));
+    quorix::MainFrameWnd window(quorix::FindProgramFolder(installed, quorix::UserDataFolder()));
+    if (!window.Create()) {
+        return EndStart(window.SkinPathTried());
+    }
+    window.show();
+    return QApplication::exec();
 }

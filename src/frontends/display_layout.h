@@ -92,6 +92,6 @@ inline constexpr Rgb kDegreeToken = 0xFF0080;
 inline constexpr int kTextRowWidth = 200;
 inline constexpr int kCursorRoom = 10;
 /// The first visible token starts this far inside the text row.
-inline constexpr int kTextRowInset = 4;
+inline constexpr int kTextRowInset = 1;
 
 }  // namespace quorix

@@ -29,10 +29,14 @@ CMainFrame::CMainFrame(const Surroundings& surroundings, const DeviceScreen& scr
 
 CMainFrame::~CMainFrame() = default;
 
+bool CMainFrame::CategoryAvailable(int category) {
+    return category >= 0 && category < kCategoryCount &&
+           kCategoryAvailable[static_cast<std::size_t>(category)];
+}
+
 void CMainFrame::StartIn(int category) {
     previousInputMode_ = preferences_.calculator.inputMode;
-    const bool available = kCategoryAvailable[static_cast<std::size_t>(category)];
-    EnterCategory(available ? category : int{CATEGORY_ARITHMETIC});
+    EnterCategory(CategoryAvailable(category) ? category : int{CATEGORY_ARITHMETIC});
     CoupleInputMode(CATEGORY_ARITHMETIC, currentCategory_);
     if (!preferences_.calculator.IsStringMode()) {
         // The basic machine starts from 0.
@@ -49,8 +53,7 @@ void CMainFrame::EnterCategory(int category) {
 }
 
 void CMainFrame::SwitchCategory(int category) {
-    if (category < 0 || category >= kCategoryCount || category == currentCategory_ ||
-        !kCategoryAvailable[static_cast<std::size_t>(category)]) {
+    if (category == currentCategory_ || !CategoryAvailable(category)) {
         return;
     }
     const int previous = currentCategory_;
@@ -82,7 +85,7 @@ void CMainFrame::StepCategory(int step) {
     for (int tried = 0; tried < kCategoryCount; ++tried) {
         index = (index + step + kCategoryCount) % kCategoryCount;
         const std::uint8_t category = order[static_cast<std::size_t>(index)];
-        if (preferences_.categoryEnabled[category] != 0 && kCategoryAvailable[category]) {
+        if (preferences_.categoryEnabled[category] != 0 && CategoryAvailable(category)) {
             SwitchCategory(category);
             return;
         }

@@ -75,6 +75,8 @@ class CMainFrame {
     [[nodiscard]] int CurrentCategory() const { return currentCategory_; }
     [[nodiscard]] Orientation CurrentOrientation() const { return OrientationOf(screen_); }
     [[nodiscard]] int Scale() const { return screen_.Scale(); }
+    /// Whether a category (0 to 15) has its window yet.
+    [[nodiscard]] static bool CategoryAvailable(int category);
     [[nodiscard]] const PanelLooks& Looks() const { return looks_; }
 
     /// A rotation or another scale: every window is laid out anew.

@@ -21,20 +21,20 @@ bool LoadShippedFonts(const std::filesystem::path& folder) {
     });
 }
 
-QFont ScreenFont(const FontSpec& spec, int scale) {
+QFont ScreenFont(const TextFont& text, int scale) {
     QStringList families;
-    if (spec.face != kInterfaceFace) {
-        families << spec.face.toString();
+    if (text.face != kInterfaceFace) {
+        families << text.face.toString();
     }
-    if (spec.condensed) {
+    if (text.condensed) {
         families << QStringLiteral("Roboto Condensed");
     }
     families << QStringLiteral("Roboto") << QStringLiteral("Noto Sans") << QStringLiteral("DejaVu Sans");
 
     QFont font;
     font.setFamilies(families);
-    font.setPixelSize(std::max(1, static_cast<int>(spec.em * scale)));
-    font.setWeight(static_cast<QFont::Weight>(spec.weight));
+    font.setPixelSize(std::max(1, static_cast<int>(text.em * scale)));
+    font.setWeight(static_cast<QFont::Weight>(text.weight));
     font.setHintingPreference(scale == 1 ? QFont::PreferVerticalHinting : QFont::PreferNoHinting);
     font.setStyleStrategy(
         static_cast<QFont::StyleStrategy>(QFont::PreferAntialias | QFont::NoSubpixelAntialias));

@@ -16,7 +16,7 @@ inline constexpr int kBoldWeight = 700;
 inline constexpr QStringView kInterfaceFace = u"Tahoma";
 
 /// What a text is set in; `em` is in logical units.
-struct FontSpec {
+struct TextFont {
     double em = 12;
     int weight = kMediumWeight;
     bool condensed = false;
@@ -30,6 +30,6 @@ bool LoadShippedFonts(const std::filesystem::path& folder);
 /// The font at a scale: `em` times `scale` in whole pixels, rounded down but never below 1. Grey
 /// anti-aliasing only; no hinting at scale 2, vertical hinting at 1. "Tahoma" and unknown names fall back
 /// over "Roboto", "Noto Sans" and "DejaVu Sans". Kerning is off, so that a text is as wide as its signs.
-QFont ScreenFont(const FontSpec& spec, int scale);
+QFont ScreenFont(const TextFont& text, int scale);
 
 }  // namespace quorix

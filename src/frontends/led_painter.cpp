@@ -1,0 +1,282 @@
+#include "frontends/led_painter.h"
+
+#include <QFontMetricsF>
+#include <QPainter>
+#include <QPainterPath>
+#include <cmath>
+#include <string>
+
+#include "frontends/result_fit.h"
+#include "frontends/token_colors.h"
+#include "platform/qt/fonts.h"
+#include "platform/qt/pictures.h"
+
+namespace quorix {
+
+namespace {
+
+// Texts of the display. A height given for a row is that of a whole line; the em is about 0.83 of it.
+constexpr TextFont kStatusFont = {.em = 9, .weight = kRegularWeight};
+constexpr TextFont kNarrowStatusFont = {.em = 9, .weight = kRegularWeight, .condensed = true};
+constexpr TextFont kPendingFont = {.em = 12.5, .weight = kRegularWeight};
+constexpr TextFont kLineFont = {.em = 17, .weight = kMediumWeight};
+constexpr TextFont kResultFont = {.em = 15, .weight = kMediumWeight};
+constexpr TextFont kNarrowResultFont = {.em = 12.5, .weight = kMediumWeight, .condensed = true};
+constexpr TextFont kBinaryFont = {.em = 10.5, .weight = kMediumWeight, .condensed = true};
+constexpr TextFont kEqualsFont = {.em = 16.5, .weight = kBoldWeight};
+
+// Base lines from the top of the display, in units.
+constexpr double kStatusBaseline = 10.6;
+constexpr double kPendingBaseline = 11;
+constexpr double kLineBaseline = 28;
+constexpr double kResultBaseline = 44;
+constexpr double kEqualsBaseline = 45;
+
+constexpr int kMarkInset = 1;      // A mark stands this far inside its rectangle,
+constexpr int kMarkClearance = 3;  // and at least this far from its end.
+constexpr int kCursorHeight = 2;
+constexpr int kFrameLines = 3;
+constexpr double kArrowWidth = 5;
+constexpr double kArrowHalfHeight = 5;
+
+constexpr char16_t kSeparator = 0x00B8;
+
+QColor ColorOf(Rgb color) {
+    return QColor::fromRgb(color);
+}
+
+QRect ToQRect(const Rect& rect) {
+    return {rect.left, rect.top, rect.Width(), rect.Height()};
+}
+
+/// Text as it is painted: the separator of number texts has the glyph of a comma.
+QString Painted(std::u16string_view text) {
+    QString painted = QString::fromUtf16(text.data(), static_cast<qsizetype>(text.size()));
+    return painted.replace(QChar(kSeparator), QLatin1Char(','));
+}
+
+double BaselineOf(double units, int scale) {
+    return std::floor(units * scale + 0.5);
+}
+
+void PaintMark(QPainter& painter, DisplayPart part, Rgb color, const QString& text, int scale) {
+    const Rect rect = DisplayPartRect(part, scale);
+    const double left = rect.left + kMarkInset * scale;
+    QFont font = ScreenFont(kStatusFont, scale);
+    if (left + QFontMetricsF(font).horizontalAdvance(text) > rect.right - kMarkClearance * scale) {
+        font = ScreenFont(kNarrowStatusFont, scale);
+    }
+    painter.setFont(font);
+    painter.setPen(ColorOf(color));
+    painter.drawText(QPointF(left, BaselineOf(kStatusBaseline, scale)), text);
+}
+
+/// Text of a status mark by the identifier that it shows; identifiers of one mark follow each other.
+struct MarkText {
+    std::int32_t id;
+    const char* text;
+};
+
+constexpr MarkText kMarkTexts[] = {
+    {FORMAT_FIX, "FIX"}, {FORMAT_NORM, "NORM"}, {FORMAT_SCI, "SCI"}, {FORMAT_FRAC, "FRAC"},
+    {WORD_8, "8 bit"},   {WORD_16, "16 bit"},   {WORD_32, "32 bit"},  //
+    {ANGLE_DEG, "DEG"},  {ANGLE_RAD, "RAD"},    {ANGLE_GRAD, "GRA"},  //
+    {RADIX_BIN, "BIN"},  {RADIX_OCT, "OCT"},    {RADIX_DEC, "DEC"},  {RADIX_HEX, "HEX"},
+};
+
+QString MarkTextOf(std::int32_t id) {
+    for (const MarkText& mark : kMarkTexts) {
+        if (mark.id == id) {
+            return QLatin1String(mark.text);
+        }
+    }
+    return {};
+}
+
+void PaintArrow(QPainter& painter, DisplayPart part, int scale) {
+    const QRectF rect = ToQRect(DisplayPartRect(part, scale));
+    const double direction = part == DisplayPart::leftArrow ? -1 : 1;
+    const QPointF tip = rect.center() + QPointF(direction * kArrowWidth / 2 * scale, 0);
+    const double back = tip.x() - direction * kArrowWidth * scale;
+    QPainterPath triangle(tip);
+    triangle.lineTo(back, tip.y() - kArrowHalfHeight * scale);
+    triangle.lineTo(back, tip.y() + kArrowHalfHeight * scale);
+    triangle.closeSubpath();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.fillPath(triangle, ColorOf(display_colors::kArrow));
+    painter.setRenderHint(QPainter::Antialiasing, false);
+}
+
+void PaintFrame(QPainter& painter, Rect rect, const DisplayFrameColours& frame) {
+    for (const ColorRef color : frame) {
+        painter.fillRect(ToQRect(rect), ToQColor(color));
+        rect = rect.Inset(1);
+    }
+    painter.fillRect(ToQRect(rect), ColorOf(display_colors::kBackground));
+}
+
+}  // namespace
+
+void LedPainter::SetTexButton(const Image& picture) {
+    texButton_ = ToQImage(picture);
+}
+
+double LedPainter::AdvanceOf(char16_t sign, int scale) {
+    if (advancesScale_ != scale) {
+        advances_.clear();
+        advancesScale_ = scale;
+    }
+    const auto [it, isNew] = advances_.try_emplace(sign, 0.0);
+    if (isNew) {
+        it->second = QFontMetricsF(ScreenFont(kLineFont, scale)).horizontalAdvance(Painted({&sign, 1}));
+    }
+    return it->second;
+}
+
+std::vector<int> LedPainter::MeasureTokens(std::u16string_view line, std::u16string_view tokenLengths,
+                                           int scale) {
+    std::vector<int> widths;
+    widths.reserve(tokenLengths.size());
+    std::size_t at = 0;
+    for (const char16_t length : tokenLengths) {
+        const std::u16string_view token = line.substr(at, static_cast<std::size_t>(length - u'0'));
+        at += token.size();
+        double width = 0;
+        for (const char16_t sign : token) {
+            width += AdvanceOf(sign, scale);
+        }
+        widths.push_back(static_cast<int>(std::lround(width)));
+    }
+    return widths;
+}
+
+void LedPainter::Paint(QPainter& painter, const Rect& size, CLedDisplay& display,
+                       const DisplayFrameColours& frame, int scale) {
+    const std::vector<int> widths = MeasureTokens(display.GetLine(), display.GetTokenLengths(), scale);
+    display.UpdateView(widths, scale);
+    PaintFrame(painter, size, frame);
+    painter.save();
+    painter.setClipRect(ToQRect(size.Inset(kFrameLines)), Qt::IntersectClip);
+    PaintStatus(painter, display, scale);
+    PaintLine(painter, display, widths, scale);
+    PaintResult(painter, display, scale);
+    painter.restore();
+    PaintTexButton(painter, display, scale);
+}
+
+void LedPainter::PaintStatus(QPainter& painter, const CLedDisplay& display, int scale) const {
+    const StatusVisibility& shown = display.Visibility();
+    const struct {
+        bool shown;
+        DisplayPart part;
+        Rgb color;
+        QString text;
+    } marks[] = {
+        {shown.lineNumber, DisplayPart::lineNumber, display_colors::kText,
+         QString::number(display.LineNumber() + 1)},
+        {display.GetShift(), DisplayPart::shiftMark, display_colors::kShift, QStringLiteral("SHIFT")},
+        {shown.memory, DisplayPart::memoryMark, display_colors::kMemory,
+         QStringLiteral("M%1").arg(display.Memory() - KEY_M1 + 1)},
+        {shown.base, DisplayPart::baseMark, display_colors::kBase, MarkTextOf(display.GetBase())},
+        {shown.angle, DisplayPart::angleMark, display_colors::kAngle, MarkTextOf(display.GetAngle())},
+        {shown.format, DisplayPart::formatMark, display_colors::kFormat, MarkTextOf(display.GetFormat())},
+        {shown.wordSize, DisplayPart::wordSizeMark, display_colors::kWordSize,
+         MarkTextOf(display.GetWordSize())},
+    };
+    for (const auto& mark : marks) {
+        if (mark.shown) {
+            PaintMark(painter, mark.part, mark.color, mark.text, scale);
+        }
+    }
+    if (!display.PendingOperator().empty()) {
+        const Rect rect = DisplayPartRect(DisplayPart::pendingOperator, scale);
+        painter.setFont(ScreenFont(kPendingFont, scale));
+        painter.setPen(ColorOf(display_colors::kPendingOperator));
+        painter.drawText(QPointF(rect.left + kMarkInset * scale, BaselineOf(kPendingBaseline, scale)),
+                         Painted(display.PendingOperator()));
+    }
+}
+
+void LedPainter::PaintLine(QPainter& painter, const CLedDisplay& display, const std::vector<int>& widths,
+                           int scale) {
+    for (const DisplayPart arrow : {DisplayPart::leftArrow, DisplayPart::rightArrow}) {
+        if (display.ArrowShown(arrow)) {
+            PaintArrow(painter, arrow, scale);
+        }
+    }
+    const TokenLine& line = display.Line();
+    const std::vector<Rgb> colors = ColorsOfLine(line.Text(), line.TokenLengths());
+    const Rect row = DisplayPartRect(DisplayPart::textRow, scale);
+    const double baseline = BaselineOf(kLineBaseline, scale);
+    painter.save();
+    painter.setClipRect(ToQRect(row), Qt::IntersectClip);
+    painter.setFont(ScreenFont(kLineFont, scale));
+
+    int left = row.left + kTextRowInset * scale;
+    int cursorLeft = left;
+    int cursorWidth = 0;
+    for (int k = line.FirstVisible(); k <= line.LastVisible() && k < line.TokenCount(); ++k) {
+        std::size_t at = line.OffsetOf(k);
+        double x = left;
+        for (const char16_t sign : line.Token(k)) {
+            painter.setPen(ColorOf(colors[at]));
+            painter.drawText(QPointF(x, baseline), Painted({&sign, 1}));
+            x += AdvanceOf(sign, scale);
+            ++at;
+        }
+        const int width = widths[static_cast<std::size_t>(k)];
+        if (k == line.Cursor()) {
+            cursorLeft = left;
+            cursorWidth = width;
+        }
+        left += width;
+    }
+    if (line.Cursor() >= line.TokenCount() && line.LastVisible() + 1 >= line.TokenCount()) {
+        cursorLeft = left;
+        cursorWidth = kCursorRoom * scale;
+    }
+    painter.fillRect(cursorLeft, row.bottom - kCursorHeight * scale, cursorWidth, kCursorHeight * scale,
+                     ColorOf(display_colors::kCursor));
+    painter.restore();
+}
+
+void LedPainter::PaintResult(QPainter& painter, const CLedDisplay& display, int scale) const {
+    painter.setPen(ColorOf(display_colors::kText));
+    const double baseline = BaselineOf(kResultBaseline, scale);
+    if (display.ShowsEquals()) {
+        painter.setFont(ScreenFont(kEqualsFont, scale));
+        const Rect mark = DisplayPartRect(DisplayPart::equalsMark, scale);
+        painter.drawText(QPointF(mark.left + kMarkInset * scale, BaselineOf(kEqualsBaseline, scale)),
+                         QStringLiteral("="));
+    }
+    const std::u16string& result = display.GetResultText();
+    if (result.empty()) {
+        return;
+    }
+    const Rect row = DisplayPartRect(DisplayPart::resultRow, scale);
+    const auto fits = [&](const QFont& font, std::u16string_view text) {
+        return QFontMetricsF(font).horizontalAdvance(Painted(text)) <= row.Width();
+    };
+    const bool isBinary = display.GetBase() == RADIX_BIN && display.GetWordSize() == WORD_32 &&
+                          (result.front() == u'0' || result.front() == u'1');
+    QFont font = ScreenFont(isBinary ? kBinaryFont : kResultFont, scale);
+    if (!isBinary && !fits(font, result)) {
+        font = ScreenFont(kNarrowResultFont, scale);
+    }
+    const QString text =
+        Painted(CutToFit(result, [&](std::u16string_view part) { return fits(font, part); }));
+    painter.setFont(font);
+    painter.drawText(QPointF(row.right - QFontMetricsF(font).horizontalAdvance(text), baseline), text);
+}
+
+void LedPainter::PaintTexButton(QPainter& painter, const CLedDisplay& display, int scale) const {
+    if (!display.Visibility().texButton || texButton_.isNull()) {
+        return;
+    }
+    const Rect place = DisplayPartRect(DisplayPart::texButton, scale);
+    const int width = texButton_.width() / 2;
+    painter.drawImage(QPoint(place.left, place.top), texButton_,
+                      QRect(display.TexButtonPressed() ? width : 0, 0, width, texButton_.height()));
+}
+
+}  // namespace quorix

@@ -1,0 +1,105 @@
+#include "frontends/led_wnd.h"
+
+#include <QContextMenuEvent>
+#include <QCursor>
+#include <QMenu>
+#include <QPainter>
+#include <cstdlib>
+
+#include "frontends/context_menu.h"
+
+namespace quorix {
+
+namespace {
+
+/// Of this window: a pen held still on the text row.
+constexpr int kGestureTimer = 1118;
+/// A pen that strays farther than this, in device pixels, is no longer held still.
+constexpr int kStillRadius = 6;
+
+QString ToQString(std::u16string_view text) {
+    return QString::fromUtf16(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+}  // namespace
+
+void LedWnd::SetDisplay(CLedDisplay* display, int holdInterval) {
+    display_ = display;
+    holdInterval_ = holdInterval;
+    InvalidateAll();
+}
+
+void LedWnd::SetFrameColours(const DisplayFrameColours& colours) {
+    frame_ = colours;
+    InvalidateAll();
+}
+
+void LedWnd::SetTexButton(const Image& picture) {
+    painter_.SetTexButton(picture);
+    InvalidateAll();
+}
+
+void LedWnd::Paint(QPainter& painter, const Rect& /*dirty*/) {
+    if (display_ != nullptr) {
+        painter_.Paint(painter, {0, 0, Place().Width(), Place().Height()}, *display_, frame_, Scale());
+    }
+}
+
+void LedWnd::OnTimer(int id) {
+    if (display_ == nullptr) {
+        return;
+    }
+    if (id != kGestureTimer) {
+        display_->OnTimer(id);
+        return;
+    }
+    Kill(kGestureTimer);
+    OpenContextMenu(QCursor::pos());
+}
+
+void LedWnd::OnPenDown(Point at) {
+    if (display_ == nullptr) {
+        return;
+    }
+    pressedAt_ = at;
+    menuOpened_ = false;
+    if (display_->GestureAllowedAt(at, Scale())) {
+        Set(kGestureTimer, holdInterval_);
+    }
+    display_->PenDown(at, Scale());
+}
+
+void LedWnd::OnPenMove(Point at) {
+    if (std::abs(at.x - pressedAt_.x) > kStillRadius || std::abs(at.y - pressedAt_.y) > kStillRadius) {
+        Kill(kGestureTimer);
+    }
+}
+
+void LedWnd::OnPenUp(Point at) {
+    Kill(kGestureTimer);
+    if (display_ != nullptr && !menuOpened_) {
+        display_->PenUp(at, Scale());
+    }
+}
+
+void LedWnd::contextMenuEvent(QContextMenuEvent* event) {
+    OpenContextMenu(event->globalPos());
+}
+
+void LedWnd::OpenContextMenu(QPoint globalPosition) {
+    if (display_ == nullptr || !display_->AllowsGesture()) {
+        return;
+    }
+    menuOpened_ = true;
+    auto* const menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    for (const ContextMenuItem& item : ContextMenuOf(*display_, clipboard_)) {
+        QAction* const action = menu->addAction(ToQString(item.text));
+        action->setEnabled(item.enabled);
+        connect(action, &QAction::triggered, this,
+                [this, id = item.id] { RunContextMenu(id, *display_, clipboard_); });
+    }
+    menu->popup(globalPosition);
+}
+
+}  // namespace quorix

@@ -1,0 +1,107 @@
+#include "frontends/panel_painter.h"
+
+#include <QPainter>
+
+#include "platform/qt/fonts.h"
+#include "platform/qt/pictures.h"
+
+namespace quorix {
+
+namespace {
+
+constexpr int kSmallCapRows = 4;
+constexpr int kLargeCapRows = 3;
+constexpr int kPageLabels = 12;
+constexpr int kGeneralLabels = 6;
+constexpr int kLargeLabelColumns = 5;
+constexpr int kLargeLabelRows = 4;
+
+constexpr int kCapCorner = 8;    // Units that a cap's corners keep when it is stretched.
+constexpr int kPressedDrop = 2;  // Units that a pressed label stands lower.
+
+constexpr TextFont kLandscapeFont = {.em = 14, .weight = kBoldWeight};
+
+QRect ToQRect(const Rect& rect) {
+    return {rect.left, rect.top, rect.Width(), rect.Height()};
+}
+
+}  // namespace
+
+QImage PanelPainter::CapStrip::Cut(int row, bool down) const {
+    const int width = picture.width() / 2;
+    const int height = picture.height() / rows;
+    return picture.copy(down ? width : 0, row * height, width, height);
+}
+
+QSize PanelPainter::LabelGrid::LabelSize() const {
+    return {picture.width() / columns, picture.height() / rows};
+}
+
+void PanelPainter::SetPictures(const PanelPictures& pictures) {
+    smallCaps_ = {ToQImage(pictures.smallButtons), kSmallCapRows};
+    largeCaps_ = {ToQImage(pictures.largeButtons), kLargeCapRows};
+    smallLabels_ = {ToQImage(pictures.smallFonts), kPageLabels, 1};
+    generalLabels_ = {ToQImage(pictures.smallFontsGeneral), kGeneralLabels, 1};
+    largeLabels_ = {ToQImage(pictures.largeFonts), kLargeLabelColumns, kLargeLabelRows};
+    caps_.clear();
+}
+
+void PanelPainter::PaintBody(QPainter& painter, const Rect& client, const BodyColours& colours) {
+    painter.fillRect(ToQRect(client), ToQColor(colours.outer));
+    painter.fillRect(ToQRect(client.Inset(1)), ToQColor(colours.inner));
+    painter.fillRect(ToQRect(client.Inset(2)), ToQColor(colours.body));
+}
+
+void PanelPainter::PaintLandscapeWord(QPainter& painter, const Rect& rect, int scale) {
+    painter.setFont(ScreenFont(kLandscapeFont, scale));
+    painter.setPen(Qt::white);
+    painter.drawText(ToQRect(rect), Qt::AlignCenter | Qt::TextSingleLine, QStringLiteral("Landscape"));
+}
+
+const QImage& PanelPainter::CapPicture(PanelCell cell, QSize size, bool down, int scale) {
+    const int row = CapRowOf(cell);
+    QImage& cap = caps_[{cell.panel, row, down, size.width(), size.height()}];
+    if (cap.isNull()) {
+        const CapStrip& strip = cell.panel == Panel::upper ? smallCaps_ : largeCaps_;
+        cap = StretchCap(strip.Cut(row, down), size, kCapCorner * scale);
+    }
+    return cap;
+}
+
+PanelPainter::Label PanelPainter::LabelOf(PanelCell cell) const {
+    if (cell.panel == Panel::lower) {
+        return {&largeLabels_, cell.cell};
+    }
+    return cell.cell < CELL_FIRST_GENERAL ? Label{&smallLabels_, cell.cell}
+                                          : Label{&generalLabels_, cell.cell - CELL_FIRST_GENERAL};
+}
+
+void PanelPainter::PaintCell(QPainter& painter, Orientation orientation, int scale, PanelCell cell,
+                             bool down) {
+    const QRect place = ToQRect(CellRect(orientation, cell).Scaled(scale));
+    if (!(cell.panel == Panel::upper ? smallCaps_ : largeCaps_).picture.isNull()) {
+        painter.drawImage(place.topLeft(), CapPicture(cell, place.size(), down, scale));
+    }
+    const Label label = LabelOf(cell);
+    if (label.grid->picture.isNull()) {
+        return;
+    }
+    const QSize size = label.grid->LabelSize();
+    const QPoint at(place.x() + (place.width() - size.width()) / 2,
+                    place.y() + (place.height() - size.height()) / 2 + (down ? kPressedDrop * scale : 0));
+    const QRect from(QPoint(label.index % label.grid->columns * size.width(),
+                            label.index / label.grid->columns * size.height()),
+                     size);
+    painter.drawImage(at, label.grid->picture, from);
+}
+
+void PanelPainter::PaintPanel(QPainter& painter, Orientation orientation, int scale, Panel panel,
+                              const PanelLooks& looks) {
+    const int cells = panel == Panel::upper ? kUpperCellCount : kLowerCellCount;
+    for (int i = 0; i < cells; ++i) {
+        const PanelCell cell{panel, i};
+        PaintCell(painter, orientation, scale, cell, looks.LooksDown(cell));
+    }
+}
+
+}  // namespace quorix

@@ -1,0 +1,80 @@
+#pragma once
+
+// Draws the main window's body and its two key panels from the pictures of a skin.
+
+#include <QImage>
+#include <map>
+#include <tuple>
+
+#include "frontends/key_panel.h"
+#include "platform/color.h"
+#include "platform/image.h"
+
+class QPainter;
+
+namespace quorix {
+
+/// The pictures of the panels; empty ones are not drawn.
+struct PanelPictures {
+    Image smallButtons;
+    /// The page of labels of the category, for cells 0 to 11 of the upper panel.
+    Image smallFonts;
+    Image smallFontsGeneral;  ///< Cells 12 to 17.
+    Image largeButtons;
+    Image largeFonts;
+};
+
+/// Two frame lines of one device pixel, and the body inside them.
+struct BodyColours {
+    ColorRef outer;
+    ColorRef inner;
+    ColorRef body;
+};
+
+/// All painters draw in device pixels: logical units times `scale`.
+class PanelPainter {
+  public:
+    /// Takes the pictures of a skin or of another category. They may be freed afterwards.
+    void SetPictures(const PanelPictures& pictures);
+
+    static void PaintBody(QPainter& painter, const Rect& client, const BodyColours& colours);
+    /// "Landscape" in white, centred in `rect` (device pixels).
+    static void PaintLandscapeWord(QPainter& painter, const Rect& rect, int scale);
+
+    /// One key: its cap and its label. A pressed label stands two units lower.
+    void PaintCell(QPainter& painter, Orientation orientation, int scale, PanelCell cell, bool down);
+    void PaintPanel(QPainter& painter, Orientation orientation, int scale, Panel panel,
+                    const PanelLooks& looks);
+
+  private:
+    /// One strip of caps: rows of styles, the up look at left, the down look at right.
+    struct CapStrip {
+        QImage picture;
+        int rows = 1;
+        [[nodiscard]] QImage Cut(int row, bool down) const;
+    };
+    /// A grid of labels.
+    struct LabelGrid {
+        QImage picture;
+        int columns = 1;
+        int rows = 1;
+        [[nodiscard]] QSize LabelSize() const;
+    };
+    struct Label {
+        const LabelGrid* grid;
+        int index;
+    };
+
+    const QImage& CapPicture(PanelCell cell, QSize size, bool down, int scale);
+    [[nodiscard]] Label LabelOf(PanelCell cell) const;
+
+    CapStrip smallCaps_;
+    CapStrip largeCaps_;
+    LabelGrid smallLabels_;
+    LabelGrid generalLabels_;
+    LabelGrid largeLabels_;
+    /// Caps by panel, row, look, width and height, cut once.
+    std::map<std::tuple<Panel, int, bool, int, int>, QImage> caps_;
+};
+
+}  // namespace quorix

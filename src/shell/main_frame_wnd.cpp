@@ -1,0 +1,226 @@
+#include "shell/main_frame_wnd.h"
+
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QPainter>
+#include <iostream>
+#include <optional>
+
+#include "platform/png_loader.h"
+
+namespace quorix {
+
+namespace {
+
+constexpr char16_t kBackspaceCharacter = 8;
+constexpr char16_t kEnterCharacter = 13;
+
+std::optional<HardKey> HardKeyOf(int qtKey) {
+    switch (qtKey) {
+        case Qt::Key_Up: return HardKey::up;
+        case Qt::Key_Down: return HardKey::down;
+        case Qt::Key_Left: return HardKey::left;
+        case Qt::Key_Right: return HardKey::right;
+        case Qt::Key_Delete: return HardKey::remove;
+        default: return std::nullopt;
+    }
+}
+
+bool Overlap(const Rect& a, const Rect& b) {
+    return a.left < b.right && b.left < a.right && a.top < b.bottom && b.top < a.bottom;
+}
+
+}  // namespace
+
+MainFrameWnd::MainFrameWnd(const std::filesystem::path& programFolder)
+    : folder_(programFolder), view_(LoadViewSettings(programFolder)), skin_(programFolder, view_.Screen()) {
+    setWindowTitle(QStringLiteral("Quorix"));
+    setFocusPolicy(Qt::StrongFocus);
+}
+
+MainFrameWnd::~MainFrameWnd() = default;
+
+bool MainFrameWnd::Create() {
+    led_ = std::make_unique<LedWnd>(this);
+    frame_ = std::make_unique<CMainFrame>(CMainFrame::Surroundings{.folder = folder_,
+                                                                   .host = *this,
+                                                                   .clock = clock_,
+                                                                   .frameTimers = this,
+                                                                   .displayTimers = led_.get(),
+                                                                   .waitCursor = &waitCursor_},
+                                          view_.Screen());
+    skin_.Select(frame_->Settings().skinFile);
+    if (!skin_.LoadSkinPaths()) {
+        return false;
+    }
+    led_->SetDisplay(&frame_->Display(), static_cast<int>(frame_->Settings().tapHoldInterval));
+    ApplyView();
+    if (view_.position) {
+        move(*view_.position);
+    }
+    return true;
+}
+
+std::filesystem::path MainFrameWnd::SkinPathTried() const {
+    return folder_ / std::filesystem::path(kInterfacesFolder) / std::filesystem::path(skin_.SkinFile());
+}
+
+void MainFrameWnd::ApplyView() {
+    const DeviceScreen screen = view_.Screen();
+    skin_.SetScreen(screen);
+    skin_.LoadSkinPaths();
+    SetScale(screen.Scale());
+    LoadPictures();
+    LayOut();
+    SetZoom(view_.Zoom());
+    frame_->SetScreen(screen);
+}
+
+void MainFrameWnd::LoadPictures() {
+    colours_ = {};
+    if (const auto path = skin_.FindSkinValue("BoderColores"); !path.empty()) {
+        colours_.LoadColours(path);
+    }
+    pictures_.largeButtons.Load(skin_.Path(SkinPath::largeButtons));
+    pictures_.smallButtons.Load(skin_.Path(SkinPath::smallButtons));
+    pictures_.largeFonts.Load(skin_.Path(SkinPath::largeFonts));
+    pictures_.smallFontsGeneral.Load(skin_.Path(SkinPath::smallFontsGeneral));
+    LoadPageLabels();
+    Image texButton;
+    texButton.Load(folder_ / "Resources" / (Scale() == 2 ? "TexButton_VGA.png" : "TexButton.png"));
+    led_->SetTexButton(texButton);
+    led_->SetFrameColours(
+        {colours_[SkinColour::border2], colours_[SkinColour::border3], colours_[SkinColour::border4]});
+}
+
+void MainFrameWnd::LoadPageLabels() {
+    const int category = frame_->CurrentCategory();
+    pictures_.smallFonts.Load(
+        skin_.Path(category <= kLastPanelCategory ? SmallFontsOf(category) : SkinPath::smallFonts));
+    panels_.SetPictures(pictures_);
+}
+
+void MainFrameWnd::LayOut() {
+    const FrameLayout& layout = LayoutOf(OrientationOf(view_.Screen()));
+    SetPlace(layout.client.Scaled(Scale()));
+    led_->SetPlace(layout.display.Scaled(Scale()));
+}
+
+void MainFrameWnd::InvalidateAll() {
+    WindowBase::InvalidateAll();
+    if (led_) {
+        led_->InvalidateAll();
+    }
+}
+
+void MainFrameWnd::InvalidateDisplay() {
+    if (led_) {
+        led_->InvalidateAll();
+    }
+}
+
+void MainFrameWnd::InvalidateCell(PanelCell cell) {
+    if (frame_) {
+        Invalidate(CellRect(frame_->CurrentOrientation(), cell).Scaled(Scale()));
+    }
+}
+
+void MainFrameWnd::CategoryChanged(int category) {
+    // During start-up the pictures are loaded behind the frame's construction.
+    if (frame_) {
+        LoadPageLabels();
+        led_->setVisible(ShowsDisplay(category));
+    }
+}
+
+void MainFrameWnd::OpenPopup(PopupId id, PanelCell at, std::vector<std::u16string_view> items) {
+    auto* const menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    for (std::size_t i = 0; i < items.size(); ++i) {
+        const bool available = id != POPUP_CATEGORIES || frame_->CategoryAvailable(static_cast<int>(i));
+        if (available) {
+            QAction* const action =
+                menu->addAction(QString::fromUtf16(items[i].data(), static_cast<qsizetype>(items[i].size())));
+            connect(action, &QAction::triggered, this,
+                    [this, id, i] { frame_->PopupChosen(id, static_cast<int>(i)); });
+        }
+    }
+    const Rect cell = CellRect(frame_->CurrentOrientation(), at).Scaled(Scale());
+    menu->popup(mapToGlobal(QPointF(cell.left * Zoom(), cell.bottom * Zoom()).toPoint()));
+}
+
+void MainFrameWnd::Paint(QPainter& painter, const Rect& dirty) {
+    const Orientation orientation = frame_->CurrentOrientation();
+    const FrameLayout& layout = LayoutOf(orientation);
+    PanelPainter::PaintBody(painter, layout.client.Scaled(Scale()),
+                            {.outer = colours_[SkinColour::border0],
+                             .inner = colours_[SkinColour::border1],
+                             .body = pictures_.largeButtons.BackgroundColor()});
+    if (layout.landscapeWord.Width() > 0) {
+        PanelPainter::PaintLandscapeWord(painter, layout.landscapeWord.Scaled(Scale()), Scale());
+    }
+    for (const auto& [panel, count] :
+         {std::pair{Panel::upper, kUpperCellCount}, {Panel::lower, kLowerCellCount}}) {
+        for (int index = 0; index < count; ++index) {
+            const PanelCell cell{panel, index};
+            if (Overlap(CellRect(orientation, cell).Scaled(Scale()), dirty)) {
+                panels_.PaintCell(painter, orientation, Scale(), cell, frame_->Looks().LooksDown(cell));
+            }
+        }
+    }
+}
+
+bool MainFrameWnd::DesktopKey(const QKeyEvent& event) {
+    const bool control = (event.modifiers() & Qt::ControlModifier) != 0;
+    if (event.key() == Qt::Key_F9) {
+        view_.shape = NextShape(view_.shape);
+    } else if (control && (event.key() == Qt::Key_Plus || event.key() == Qt::Key_Equal)) {
+        view_.zoomPercent = ZoomAfter(view_.zoomPercent, 1);
+    } else if (control && event.key() == Qt::Key_Minus) {
+        view_.zoomPercent = ZoomAfter(view_.zoomPercent, -1);
+    } else {
+        return control && event.key() != Qt::Key_Control;
+    }
+    ApplyView();
+    return true;
+}
+
+void MainFrameWnd::keyPressEvent(QKeyEvent* event) {
+    if (DesktopKey(*event)) {
+        return;
+    }
+    if (const auto hardKey = HardKeyOf(event->key())) {
+        frame_->KeyDown(*hardKey);
+        return;
+    }
+    switch (event->key()) {
+        case Qt::Key_Return:
+        case Qt::Key_Enter: frame_->Character(kEnterCharacter); return;
+        case Qt::Key_Backspace: frame_->Character(kBackspaceCharacter); return;
+        default: break;
+    }
+    for (const char16_t character : event->text().toStdU16String()) {
+        frame_->Character(character);
+    }
+}
+
+void MainFrameWnd::keyReleaseEvent(QKeyEvent* event) {
+    if (const auto hardKey = HardKeyOf(event->key()); hardKey && !event->isAutoRepeat()) {
+        frame_->KeyUp(*hardKey);
+    }
+}
+
+void MainFrameWnd::closeEvent(QCloseEvent* event) {
+    if (!closed_) {
+        closed_ = true;
+        view_.position = pos();
+        SaveViewSettings(folder_, view_);
+        if (!frame_->SaveState()) {
+            std::cerr << "quorix: the state could not be saved in " << folder_ << '\n';
+        }
+    }
+    event->accept();
+}
+
+}  // namespace quorix

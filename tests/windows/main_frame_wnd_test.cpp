@@ -1,0 +1,153 @@
+#include "shell/main_frame_wnd.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QMouseEvent>
+
+#include "platform/program_folder.h"
+#include "platform/utf8.h"
+#include "support/temporary_folder.h"
+
+namespace quorix {
+namespace {
+
+using testing::TemporaryFolder;
+
+/// A program folder with the shipped content, and the window on it.
+class MainFrameWndTest : public ::testing::Test {
+  protected:
+    MainFrameWndTest() { SeedFolder(ExecutableFolder(), folder_.Path()); }
+
+    std::unique_ptr<MainFrameWnd> Open() {
+        auto window = std::make_unique<MainFrameWnd>(folder_.Path());
+        EXPECT_TRUE(window->Create());
+        window->show();
+        return window;
+    }
+
+    static void Send(QWidget& target, QEvent::Type type, QPointF at) {
+        const auto buttons = type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton;
+        QMouseEvent event(type, at, target.mapToGlobal(at), Qt::LeftButton, buttons, Qt::NoModifier);
+        QApplication::sendEvent(&target, &event);
+    }
+    static void Tap(MainFrameWnd& window, PanelCell cell) {
+        const Rect rect = CellRect(window.Frame().CurrentOrientation(), cell).Scaled(window.Scale());
+        const QPointF at(rect.left + rect.Width() / 2.0, rect.top + rect.Height() / 2.0);
+        Send(window, QEvent::MouseButtonPress, at * window.Zoom());
+        Send(window, QEvent::MouseButtonRelease, at * window.Zoom());
+    }
+    static void Press(MainFrameWnd& window, int key, const QString& text = {},
+                      Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+        QKeyEvent down(QEvent::KeyPress, key, modifiers, text);
+        QKeyEvent up(QEvent::KeyRelease, key, modifiers, text);
+        QApplication::sendEvent(&window, &down);
+        QApplication::sendEvent(&window, &up);
+    }
+    static void TypeText(MainFrameWnd& window, const QString& text) {
+        for (const QChar character : text) {
+            Press(window, 0, QString(character));
+        }
+    }
+    static std::string Row(MainFrameWnd& window) { return ToUtf8(window.Frame().Display().GetLine()); }
+    static std::string Result(MainFrameWnd& window) {
+        return ToUtf8(window.Frame().Display().GetResultText());
+    }
+
+    TemporaryFolder folder_;
+};
+
+TEST_F(MainFrameWndTest, TapsAndKeysComputeInEveryShapeAndSize) {
+    const auto window = Open();
+    for (const int zoomSteps : {0, 1, 2, 3}) {
+        for (int shape = 0; shape < 3; ++shape) {
+            for (const int code : {KEY_CLEAR, KEY_1, KEY_DIVIDE, KEY_8, KEY_EQUALS}) {
+                Tap(*window, {Panel::lower, code});
+            }
+            EXPECT_EQ(Result(*window), "0.125");
+            const Rect client = LayoutOf(window->Frame().CurrentOrientation()).client.Scaled(window->Scale());
+            EXPECT_EQ(window->width(), qRound(client.Width() * window->Zoom())) << zoomSteps;
+            EXPECT_FALSE(window->grab().toImage().isNull());
+            Press(*window, Qt::Key_F9);
+        }
+        Press(*window, Qt::Key_Minus, {}, Qt::ControlModifier);
+        for (int i = 0; i < zoomSteps; ++i) {
+            Press(*window, Qt::Key_Plus, {}, Qt::ControlModifier);
+        }
+    }
+    Press(*window, Qt::Key_Escape, QString(QChar(27)));
+    TypeText(*window, QStringLiteral("(1+2)*3"));
+    Press(*window, Qt::Key_Return);
+    EXPECT_EQ(Row(*window), "(1+2)×3");
+    EXPECT_EQ(Result(*window), "9");
+    Press(*window, Qt::Key_Backspace);
+    Press(*window, Qt::Key_Left);
+    Press(*window, Qt::Key_Delete);
+    EXPECT_EQ(Row(*window), "(1+2)");
+}
+
+TEST_F(MainFrameWndTest, ClosingKeepsTheLineForTheNextStart) {
+    {
+        const auto window = Open();
+        TypeText(*window, QStringLiteral("1/3="));
+        Press(*window, Qt::Key_Down);
+        Press(*window, Qt::Key_F9);
+        window->close();
+    }
+    const auto window = Open();
+    EXPECT_EQ(Row(*window), "1÷3");
+    EXPECT_EQ(window->Frame().CurrentCategory(), CATEGORY_TRIGONOMETRY);
+    EXPECT_EQ(window->Frame().CurrentOrientation(), Orientation::landscape);
+}
+
+TEST_F(MainFrameWndTest, APressRepaintsItsCellAlone) {
+    const auto window = Open();
+    const QImage before = window->grab().toImage();
+    const PanelCell cell{Panel::lower, KEY_7};
+    const Rect rect = CellRect(Orientation::portrait, cell).Scaled(window->Scale());
+    Send(*window, QEvent::MouseButtonPress, QPointF(rect.left + 20, rect.top + 20));
+    const QImage pressed = window->grab().toImage();
+    int inside = 0;
+    int outside = 0;
+    for (int y = 0; y < before.height(); ++y) {
+        for (int x = 0; x < before.width(); ++x) {
+            if (before.pixel(x, y) != pressed.pixel(x, y)) {
+                ++(rect.Contains({x, y}) ? inside : outside);
+            }
+        }
+    }
+    EXPECT_GT(inside, 1000);
+    EXPECT_EQ(outside, 0);
+    Send(*window, QEvent::MouseButtonRelease, QPointF(rect.left + 20, rect.top + 20));
+    EXPECT_EQ(Row(*window), "7");
+}
+
+TEST_F(MainFrameWndTest, ListsOpenAtTheirKeys) {
+    const auto window = Open();
+    Tap(*window, {Panel::upper, CELL_MENU});
+    auto* menu = window->findChild<QMenu*>();
+    ASSERT_NE(menu, nullptr);
+    ASSERT_EQ(menu->actions().size(), 7);
+    menu->actions()[6]->trigger();
+    EXPECT_EQ(Row(*window), "fib(");
+}
+
+TEST_F(MainFrameWndTest, AMissingSkinEndsTheStartAndMissingPicturesDoNot) {
+    std::filesystem::remove_all(folder_ / "Interfaces/Default");
+    std::filesystem::remove_all(folder_ / "Resources");
+    {
+        const auto window = Open();
+        TypeText(*window, QStringLiteral("1+1="));
+        EXPECT_EQ(Result(*window), "2");
+        EXPECT_FALSE(window->grab().toImage().isNull());
+    }
+    std::filesystem::remove(folder_ / "Interfaces/default.inf");
+    MainFrameWnd window(folder_.Path());
+    EXPECT_FALSE(window.Create());
+    EXPECT_EQ(window.SkinPathTried(), folder_ / "Interfaces/default.inf");
+}
+
+}  // namespace
+}  // namespace quorix
