@@ -4,9 +4,9 @@
 #include <cstdint>
 #include <string>
 
-#include "engine/bound_expression.h"
 #include "engine/calc_context.h"
 #include "engine/eval_complex.h"
+#include "engine/eval_double.h"
 #include "engine/evaluate.h"
 #include "engine/postfix_compiler.h"
 #include "engine/radix_conversion.h"
@@ -57,7 +57,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     ClearCalcError();
     EvalToComplex(text, u"x", &constants::kPi, 10);
     ClearCalcError();
-    EvalBoundDouble(0.5, text);
+    EvalToDouble(text, u"x", 0.5, 10);
     std::u16string rewritten = text;
     RewriteSolve(rewritten);
     return 0;

@@ -14,4 +14,11 @@ void DoubleMultiply(OperandStack<DComplex>& stack, std::int32_t base);
 /// Quotient; a divisor of zero leaves -5 in calcError.
 void DoubleDivide(OperandStack<DComplex>& stack, std::int32_t base);
 
+/// The same where no imaginary part is involved.
+bool RealAdd(double* top);
+bool RealSubtract(double* top);
+bool RealNegate(double* top);
+bool RealMultiply(double* top);
+bool RealDivide(double* top);
+
 }  // namespace quorix

@@ -8,10 +8,10 @@ namespace quorix {
 namespace {
 
 constexpr auto kRows = std::to_array<OperatorRow<DComplex>>({
-    {u"+", 2, DoubleAdd},
-    {u"*", 2, DoubleMultiply},
-    {u"-", 2, DoubleSubtract},
-    {u"/", 2, DoubleDivide},
+    {u"+", 2, DoubleAdd, RealAdd},
+    {u"*", 2, DoubleMultiply, RealMultiply},
+    {u"-", 2, DoubleSubtract, RealSubtract, RealNegate},
+    {u"/", 2, DoubleDivide, RealDivide},
 });
 
 constexpr OperatorTable<DComplex> kTable(kRows);

@@ -1,23 +1,18 @@
 #include "engine/eval_double.h"
 
-#include <cmath>
 #include <numbers>
 
-#include "engine/compiled_expression.h"
 #include "engine/double_operator_table.h"
-#include "engine/number_grammar.h"
+#include "engine/real_program.h"
 #include "engine/repeat_registers.h"
 
 namespace quorix {
 namespace {
 
-struct DoubleNumber {
-    double value = 0.0;
-
-    static DoubleNumber FromText(std::u16string_view text) { return {NumberToDouble(text)}; }
+struct DoubleWorkspace : EvaluatorWorkspace<DComplex, DoubleNumber> {
+    RealProgram real;
+    unsigned realVersion = 0;
 };
-
-using DoubleWorkspace = EvaluatorWorkspace<DComplex, DoubleNumber>;
 
 void PushValue(const ResolvedToken<DComplex>& token, const DoubleWorkspace& workspace, double boundValue,
                OperandStack<DComplex>& stack) {
@@ -31,7 +26,7 @@ void PushValue(const ResolvedToken<DComplex>& token, const DoubleWorkspace& work
     }
 }
 
-std::optional<DComplex> Run(DoubleWorkspace& workspace, double boundValue) {
+std::optional<DComplex> Walk(DoubleWorkspace& workspace, double boundValue) {
     const CalcContext& context = calcContext();
     OperandStack<DComplex> stack{workspace.entries};
     workspace.bases.Clear();
@@ -48,6 +43,20 @@ std::optional<DComplex> Run(DoubleWorkspace& workspace, double boundValue) {
         if (context.calcError != 0) return std::nullopt;
     }
     return stack.depth > 0 ? stack.entries[0] : DComplex{};
+}
+
+// The fast lane first; where it must be left, the whole expression is walked again.
+std::optional<DComplex> Run(DoubleWorkspace& workspace, double boundValue) {
+    if (workspace.realVersion != workspace.expression.Version()) {
+        workspace.realVersion = workspace.expression.Version();
+        workspace.real.Build(workspace.expression);
+    }
+    double value = 0.0;
+    if (!workspace.real.IsUsable() || !workspace.real.Run(boundValue, value))
+        return Walk(workspace, boundValue);
+    const std::u16string_view lastOperator = workspace.real.LastOperator();
+    if (!lastOperator.empty()) repeatRegisters().lastOperator = lastOperator;
+    return DComplex{value, 0.0};
 }
 
 }  // namespace

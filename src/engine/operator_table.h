@@ -10,6 +10,7 @@
 #include "engine/calc_context.h"
 #include "engine/engine_errors.h"
 #include "engine/word_hash.h"
+#include "numerics/qreal.h"
 
 namespace quorix {
 
@@ -50,6 +51,22 @@ struct OperatorRow {
     /// Operands it takes: 1 or 2 (minus takes 2, or 1 when there is only one).
     int operands;
     OperatorFunction<Value> function;
+};
+
+/// The same on plain doubles, for operands whose imaginary parts are zero: `top` is the last operand, and the
+/// result is written to the place of the first. Result: false when the outcome is not a real number or an
+/// error; nothing else may then have changed.
+using RealOperator = bool (*)(double* top);
+
+/// A row of the double table also knows its real form, null when it has none, and the real form that stands
+/// for a single operand of a row that takes two (minus).
+template <>
+struct OperatorRow<DComplex> {
+    std::u16string_view name;
+    int operands;
+    OperatorFunction<DComplex> function;
+    RealOperator real = nullptr;
+    RealOperator realOfOne = nullptr;
 };
 
 /// A table of operators searched by name; of rows with the same name the first one is found. The rows are not

@@ -159,6 +159,7 @@ TEST_F(KeyEngineTest, PolishSequences) {
         {"5 -", "-5"},        // One operand is negated.
         {"+", "error -1"},
         {"5 +", "error -1"},
+        {"5 sin", "error -1"},
         {"2 ( 3 =", "3"},
         {"1 0 ( 4 DoNothing 5 *", "20"},
         {"5 .. 2 ( PI Pop", "3.1415926535897932384626433832795"},
