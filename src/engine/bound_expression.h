@@ -4,6 +4,7 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "numerics/qreal.h"
 
@@ -17,6 +18,19 @@ struct BoundExpression {
 
 /// The one of the process; callers set it before they evaluate.
 BoundExpression& boundExpression();
+
+/// Sets the bound expression for the life of a scope; the one before comes back, as calls nest.
+class BoundExpressionScope {
+  public:
+    explicit BoundExpressionScope(BoundExpression expression)
+        : saved_(std::exchange(boundExpression(), std::move(expression))) {}
+    ~BoundExpressionScope() { boundExpression() = std::move(saved_); }
+    BoundExpressionScope(const BoundExpressionScope&) = delete;
+    BoundExpressionScope& operator=(const BoundExpressionScope&) = delete;
+
+  private:
+    BoundExpression saved_;
+};
 
 /// The bound expression at a point, radix 10. An imaginary part above 1e-64 leaves -54 and gives zero; so
 /// does any other failure with its own code.

@@ -8,11 +8,23 @@ namespace quorix {
 
 enum EngineError : std::int32_t {
     ERROR_SYNTAX = -1,
+    ERROR_SQUARE_ROOT = -4,
     ERROR_DIVISION = -5,
     ERROR_OUT_OF_RANGE = -7,
     ERROR_PARENTHESIS = -8,
+    /// The integrator's failure bears the words of matrix addition; this is intended.
+    ERROR_INTEGRATION = -10,
+    ERROR_NOT_INTEGER = -11,
+    ERROR_ROOT_NOT_FOUND = -12,
+    ERROR_LCM = -35,
     ERROR_RADIX_CONVERSION = -40,
+    ERROR_SERIES_STEP = -41,
+    ERROR_NO_LIST = -49,
+    ERROR_COMBINATION = -50,
+    ERROR_FINANCE = -51,
+    ERROR_INTEGER_TYPE = -53,
     ERROR_COMPLEX_UNSUPPORTED = -54,
+    ERROR_INFINITE_SLOPE = -55,
     ERROR_INVALID_PARAMETER = -56,
 };
 

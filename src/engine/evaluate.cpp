@@ -6,6 +6,7 @@
 #include "engine/engine_errors.h"
 #include "engine/eval_complex.h"
 #include "engine/eval_matrix.h"
+#include "engine/named_functions.h"
 #include "engine/token_list.h"
 #include "engine/variable_store.h"
 
@@ -13,7 +14,9 @@ namespace quorix {
 namespace {
 
 void EvaluateNumber(std::u16string_view text, int radix, CalcValue& record) {
-    const QComplex number = EvalToComplex(text, {}, nullptr, radix).value_or(QComplex{});
+    std::u16string expanded(text);
+    if (!ExpandNamedFunctions(expanded, radix)) return;
+    const QComplex number = EvalToComplex(expanded, {}, nullptr, radix).value_or(QComplex{});
     record.kind = number.im.IsZero() ? KIND_REAL : KIND_COMPLEX;
     record.number = number;
 }

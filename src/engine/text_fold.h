@@ -40,4 +40,10 @@ constexpr bool EqualsIgnoringCase(std::u16string_view a, std::u16string_view b) 
     return true;
 }
 
+constexpr std::u16string_view TrimBlanks(std::u16string_view text) {
+    while (!text.empty() && text.front() == u' ') text.remove_prefix(1);
+    while (!text.empty() && text.back() == u' ') text.remove_suffix(1);
+    return text;
+}
+
 }  // namespace quorix
