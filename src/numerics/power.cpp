@@ -1,21 +1,14 @@
-#include <cmath>
-
 #include "numerics/constants.h"
 #include "numerics/qfunctions.h"
 #include "numerics/range.h"
-#include "numerics/unpacked.h"
 #include "numerics/wide_functions.h"
 
 namespace quorix {
 namespace {
 
-using limbs::kLimbs;
-
-constexpr int kBias = QReal::kExponentOfOne - 1;
 constexpr std::int32_t kSaturatedInteger = 0x7FFFFFFF;
 // Whole exponents of this size and beyond go by the logarithm.
 constexpr std::int32_t kPowerByLogarithm = 415032;
-constexpr int kSquareRootSteps = 8;
 
 // Repeated squaring from the lowest bit of n.
 Wide PowerByWhole(const Wide& x, std::uint32_t n) {
@@ -41,35 +34,6 @@ bool IsOdd(const QReal& whole) {
 }
 
 }  // namespace
-
-// Steps y = (y + x/y)/2 until one repeats, at most eight. Every start ends in the same number: the step
-// leaves only one number of 336 bits as it is, so that the square root of doubles serves as well as a
-// polynomial and saves steps.
-void qsqrt(const QReal& x, QReal& result) {
-    if (x.IsZero()) return qclear(result);
-    if (x.IsNegative()) {
-        mtherr("qsqrt", NUMERIC_DOMAIN);
-        return qclear(result);
-    }
-    Unpacked scaled = Unpack(x);
-    const int exponent = scaled.exponent - kBias;
-    const int half = (exponent - (exponent & 1)) / 2;
-    scaled.exponent -= 2 * half;
-    QReal start;
-    etoq(
-        std::sqrt(std::ldexp(static_cast<double>(scaled.mantissa[kLimbs - 1]), scaled.exponent - kBias - 64)),
-        start);
-    Unpacked root = Unpack(start);
-    for (int step = 0; step < kSquareRootSteps; ++step) {
-        Unpacked next = Add(root, Divide(scaled, root));
-        --next.exponent;
-        const bool repeats = next.exponent == root.exponent && next.mantissa == root.mantissa;
-        root = next;
-        if (repeats) break;
-    }
-    root.exponent += half;
-    Pack(root, "qsqrt", result);
-}
 
 void qpowi(const QReal& x, const QReal& y, QReal& result) {
     std::int32_t n;

@@ -144,7 +144,7 @@ TEST(ComplexFunctions, CutsAndPrincipalValues) {
         {"atan(-2i)", qcatan, C("0", "-2"), kMinusHalfPi,
          "-0.549306144334054845697622618461252852323745278911374725867"},
         {"atan(1e200)", qcatan, C("1e200", "0"), kHalfPi, "0"},
-        {"asinh(-1e50)", qcasinh, C("-1e50", "0"), "-115.8224018452498381513956498", "0"},
+        {"asinh(-1e50)", qcasinh, C("-1e50", "0"), "-115.82240183026222951031680217", "0"},
         {"asinh(1e-50)", qcasinh, C("1e-50", "0"), "1e-50", "0"},
         {"tanh(1e9)", qctanh, C("1e9", "0"), "1", "0"},
         {"tan(1e9i)", qctan, C("0", "1e9"), "0", "1"},
