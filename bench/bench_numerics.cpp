@@ -1,63 +1,13 @@
 // The number core beside MPFR at 336 bits.
 
-#include <mpfr.h>
-
-#include <array>
-#include <random>
-#include <string>
-
-#include "numerics/constants.h"
-#include "numerics/qcore.h"
-#include "ratio_report.h"
+#include "bench_functions.h"
+#include "numeric_samples.h"
 
 namespace quorix {
 namespace {
 
-constexpr int kBits = 336;
-constexpr std::size_t kSamples = 512;
-
-// The same numbers in both formats: full mantissas between 1/8 and 8, of both signs.
-struct Samples {
-    Samples() {
-        std::mt19937_64 engine(1);
-        for (std::size_t i = 0; i < kSamples; ++i) {
-            std::string digits = engine() % 2 == 0 ? "" : "-";
-            digits += std::to_string(engine() % 8) + ".1";
-            while (digits.size() < 64) digits += static_cast<char>('0' + engine() % 10);
-            // Dividing fills the mantissa.
-            asctoq(digits, own[i]);
-            qdiv(constants::kPi, own[i], own[i]);
-            mpfr_init2(peer[i], kBits);
-            mpfr_set_str(peer[i], qtoasc(own[i], 99).c_str() + (own[i].IsNegative() ? 0 : 1), 10, MPFR_RNDN);
-            text[i] = digits;
-        }
-        mpfr_init2(result, kBits);
-    }
-
-    std::array<QReal, kSamples> own;
-    std::array<mpfr_t, kSamples> peer;
-    std::array<std::string, kSamples> text;
-    mpfr_t result;
-};
-
-Samples& All() {
-    static Samples samples;
-    return samples;
-}
-
-// Runs `operation(i, j)` over pairs of sample numbers.
-template <class Operation>
-bench::Body OverPairs(Operation operation) {
-    return [operation](benchmark::State& state) {
-        Samples& samples = All();
-        std::size_t i = 0;
-        for (auto _ : state) {
-            operation(samples, i, kSamples - 1 - i);
-            benchmark::ClobberMemory();
-            i = (i + 1) % (kSamples - 1);
-        }
-    };
-}
+using bench::OverPairs;
+using bench::Samples;
 
 template <class Own, class Peer>
 void AddBinary(const char* name, Own own, Peer peer, double goal) {
@@ -107,5 +57,7 @@ void RegisterText() {
 int main(int argc, char** argv) {
     quorix::RegisterArithmetic();
     quorix::RegisterText();
+    quorix::RegisterFunctions();
+    quorix::RegisterComplex();
     return quorix::bench::RunPairs(argc, argv);
 }

@@ -1,4 +1,5 @@
 #include "numerics/qcore.h"
+#include "numerics/quotient.h"
 #include "numerics/range.h"
 #include "numerics/unpacked.h"
 #include "numerics/word_products.h"
@@ -175,6 +176,10 @@ Mantissa QuotientByShortDivision(Mantissa dividend, Limb divisor) {
 }
 
 }  // namespace
+
+Mantissa MantissaQuotient(const Mantissa& dividend, const Mantissa& divisor) {
+    return Quotient(dividend, divisor);
+}
 
 Unpacked Divide(const Unpacked& dividend, const Unpacked& divisor) {
     if (dividend.IsZero()) return {};

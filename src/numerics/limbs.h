@@ -252,6 +252,14 @@ inline Mantissa UpperLimbs(DoubleLimb fromBelow, Products&& products) {
     return result;
 }
 
+/// The upper half of a product, too small by less than 12 units of limb 0: of the products of the column
+/// below it only the upper limbs are added.
+inline Mantissa UpperProduct(const Mantissa& a, const Mantissa& b) {
+    DoubleLimb fromBelow = 0;
+    Unrolled<kLimbs>([&](auto i) { fromBelow += High(Product(a[i], b[kLimbs - 1 - i])); });
+    return UpperLimbs(fromBelow, [&](auto i, auto j) { return Product(a[i], b[j]); });
+}
+
 /// m = m * factor + addend; gives the limb that leaves at the top.
 inline Limb MultiplyShort(Mantissa& m, Limb factor, Limb addend = 0) {
     Limb carry = addend;

@@ -11,14 +11,6 @@ using limbs::Mantissa;
 
 constexpr int kBias = QReal::kExponentOfOne - 1;
 
-// The upper half of the product of two mantissas, too small by less than 12 units of limb 0: of the products
-// of the column below it only the upper limbs are added.
-inline Mantissa UpperProduct(const Mantissa& a, const Mantissa& b) {
-    limbs::DoubleLimb fromBelow = 0;
-    limbs::Unrolled<6>([&](auto i) { fromBelow += limbs::High(limbs::Product(a[i], b[5 - i])); });
-    return limbs::UpperLimbs(fromBelow, [&](auto i, auto j) { return limbs::Product(a[i], b[j]); });
-}
-
 // By the rule of the words the product lacks up to 20 units of the guard word, because word products below it
 // are left out. That decides the rounding only where the guard word lies close above the half; there the
 // words are multiplied.
@@ -41,7 +33,7 @@ inline int ShiftProduct(Mantissa& product) {
 [[gnu::always_inline]] inline Unpacked MultiplyNonZero(const Unpacked& a, const Unpacked& b) {
     Unpacked result;
     result.sign = a.sign ^ b.sign;
-    result.mantissa = UpperProduct(a.mantissa, b.mantissa);
+    result.mantissa = limbs::UpperProduct(a.mantissa, b.mantissa);
     int shift = ShiftProduct(result.mantissa);
     if (!RoundingIsClear(result.mantissa)) [[unlikely]] {
         result.mantissa = ProductByWords(a.mantissa, b.mantissa);

@@ -1,0 +1,36 @@
+#include "numerics/tangent_fraction.h"
+
+#include <cmath>
+
+namespace quorix {
+
+using limbs::kLimbBits;
+using limbs::Mantissa;
+
+// The numerators grow to at most the product of the odd numbers times 1 + 1/3 + ..., below twice it. The
+// start is scaled by that, so that no step overflows. Bits cut at the start do not count: an error of a level
+// enters the value divided by the squares of the odd numbers before it, while only their first powers scale
+// it up.
+TangentFraction HyperbolicTangentFraction(const Mantissa& z, int levels) {
+    double bits = 1;
+    for (int k = 1; k <= levels; ++k) bits += std::log2(2 * k - 1);
+    const int scale = static_cast<int>(std::ceil(bits));
+    const int last = 2 * levels - 1;
+    const auto power = [](int exponent, limbs::Limb factor) {
+        const int bit = 6 * kLimbBits - exponent;
+        Mantissa m{};
+        m[static_cast<std::size_t>(bit / kLimbBits)] = limbs::Limb{1} << bit % kLimbBits;
+        limbs::MultiplyShort(m, factor);
+        return m;
+    };
+    TangentFraction fraction{power(scale, static_cast<limbs::Limb>(last)), power(scale, 1)};
+    for (int m = last - 2; m > 0; m -= 2) {
+        Mantissa numerator = fraction.numerator;
+        limbs::MultiplyShort(numerator, static_cast<limbs::Limb>(m));
+        limbs::Add(numerator, limbs::UpperProduct(fraction.denominator, z));
+        fraction = {numerator, fraction.numerator};
+    }
+    return fraction;
+}
+
+}  // namespace quorix
