@@ -3,8 +3,16 @@
 #include <QColor>
 #include <QPainter>
 #include <array>
+#include <cmath>
 
 namespace quorix {
+
+namespace {
+
+/// Sizes that differ by less are the same number of pixels.
+constexpr double kSamePixels = 0.25;
+
+}  // namespace
 
 QImage ToQImage(const Image& image) {
     if (image.IsEmpty()) {
@@ -13,6 +21,30 @@ QImage ToQImage(const Image& image) {
     const QImage view(image.Bitmap().data(), image.Width(), image.Height(), image.Width() * 4,
                       QImage::Format_RGBA8888);
     return view.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+}
+
+QImage ToQImage(const DensePicture& picture) {
+    QImage image = ToQImage(picture.image);
+    image.setDevicePixelRatio(picture.ratio);
+    return image;
+}
+
+void DrawPicture(QPainter& painter, QPointF at, const QImage& picture, const QRect& part) {
+    const QTransform toDevice = painter.deviceTransform();
+    const QRectF exact = toDevice.mapRect(QRectF(at, QSizeF(part.size()) / picture.devicePixelRatio()));
+    const QPoint topLeft(static_cast<int>(std::lround(exact.left())),
+                         static_cast<int>(std::lround(exact.top())));
+    const QPoint end(static_cast<int>(std::lround(exact.right())),
+                     static_cast<int>(std::lround(exact.bottom())));
+    const bool same = std::abs(exact.width() - part.width()) < kSamePixels &&
+                      std::abs(exact.height() - part.height()) < kSamePixels;
+    const QSize size = same ? part.size() : QSize(end.x() - topLeft.x(), end.y() - topLeft.y());
+
+    const QTransform world = painter.worldTransform();
+    painter.setWorldTransform(toDevice.inverted() * world);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, !same);
+    painter.drawImage(QRect(topLeft, size), picture, part);
+    painter.setWorldTransform(world);
 }
 
 QColor ToQColor(ColorRef color) {
@@ -34,9 +66,12 @@ QImage StretchCap(const QImage& cap, QSize size, int corner) {
     if (cap.size() == size) {
         return cap;
     }
+    const double ratio = cap.devicePixelRatio();
     if (size.width() <= 2 * corner || size.height() <= 2 * corner || cap.width() <= 2 * corner ||
         cap.height() <= 2 * corner) {
-        return cap.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        QImage scaled = cap.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        scaled.setDevicePixelRatio(ratio);
+        return scaled;
     }
     const Bands fromX = BandsOf(cap.width(), corner);
     const Bands fromY = BandsOf(cap.height(), corner);
@@ -53,6 +88,8 @@ QImage StretchCap(const QImage& cap, QSize size, int corner) {
             painter.drawImage(to, cap, from);
         }
     }
+    painter.end();
+    stretched.setDevicePixelRatio(ratio);
     return stretched;
 }
 
