@@ -51,11 +51,10 @@ bool MainFrameWnd::Create() {
                                                                    .waitCursor = &waitCursor_},
                                           view_.Screen());
     skin_.Select(frame_->Settings().skinFile);
-    if (!skin_.LoadSkinPaths()) {
+    led_->SetDisplay(&frame_->Display(), static_cast<int>(frame_->Settings().tapHoldInterval));
+    if (!ApplyView()) {
         return false;
     }
-    led_->SetDisplay(&frame_->Display(), static_cast<int>(frame_->Settings().tapHoldInterval));
-    ApplyView();
     if (view_.position) {
         move(*view_.position);
     }
@@ -66,10 +65,10 @@ std::filesystem::path MainFrameWnd::SkinPathTried() const {
     return folder_ / std::filesystem::path(kInterfacesFolder) / std::filesystem::path(skin_.SkinFile());
 }
 
-void MainFrameWnd::ApplyView() {
+bool MainFrameWnd::ApplyView() {
     const DeviceScreen screen = view_.Screen();
     skin_.SetScreen(screen);
-    skin_.LoadSkinPaths();
+    const bool skinRead = skin_.LoadSkinPaths();
     SetScale(screen.Scale());
     LoadColours();
     led_->SetTexButton(folder_ / "Resources" / (Scale() == 2 ? "TexButton_VGA.png" : "TexButton.png"));
@@ -77,6 +76,7 @@ void MainFrameWnd::ApplyView() {
     LayOut();
     SetZoom(view_.Zoom());
     frame_->SetScreen(screen);
+    return skinRead;
 }
 
 void MainFrameWnd::LoadColours() {

@@ -46,7 +46,8 @@ class MainFrameWnd : public WindowBase, public FrameHost {
 
   private:
     bool DesktopKey(const QKeyEvent& event);
-    void ApplyView();
+    /// False when the skin cannot be read; the window is laid out all the same.
+    bool ApplyView();
     void LoadColours();
     void PreparePictures();
     void LayOut();

@@ -18,9 +18,16 @@ QImage ToQImage(const Image& image) {
     if (image.IsEmpty()) {
         return {};
     }
-    const QImage view(image.Bitmap().data(), image.Width(), image.Height(), image.Width() * 4,
-                      QImage::Format_RGBA8888);
-    return view.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    // Qt would convert a large picture in threads, whose start costs more than the work.
+    QImage picture(image.Width(), image.Height(), QImage::Format_ARGB32_Premultiplied);
+    const std::uint8_t* from = image.Bitmap().data();
+    for (int y = 0; y < picture.height(); ++y) {
+        auto* to = reinterpret_cast<QRgb*>(picture.scanLine(y));
+        for (int x = 0; x < picture.width(); ++x, from += 4) {
+            to[x] = qPremultiply(qRgba(from[0], from[1], from[2], from[3]));
+        }
+    }
+    return picture;
 }
 
 QImage ToQImage(const DensePicture& picture) {
