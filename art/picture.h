@@ -8,7 +8,7 @@
 
 namespace quorix::art {
 
-/// A picture under work: logical units times `scale`, 1 or 2.
+/// A picture under work: logical units times `scale`, 1 to 4.
 ///
 /// Opaque pictures are painted on directly. Label pictures keep exact colours in every pixel that can be
 /// seen: a mark is painted as a mask of coverage, and the mask is laid on in one colour.

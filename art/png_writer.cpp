@@ -49,10 +49,21 @@ void AppendTo(png_structp png, png_bytep data, png_size_t size) {
         ->append(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size));
 }
 
-}  // namespace
+/// Which combination of row filters and deflate strategy is best depends on the picture; all are tried.
+struct PngTrial {
+    int filters;
+    int strategy;
+};
 
-void WritePng(const QImage& image, const QString& path) {
-    const QImage straight = image.convertToFormat(QImage::Format_ARGB32);
+constexpr PngTrial kTrials[] = {
+    {PNG_FILTER_NONE, Z_DEFAULT_STRATEGY},  {PNG_FILTER_SUB, Z_DEFAULT_STRATEGY},
+    {PNG_FILTER_UP, Z_DEFAULT_STRATEGY},    {PNG_FILTER_AVG, Z_DEFAULT_STRATEGY},
+    {PNG_FILTER_PAETH, Z_DEFAULT_STRATEGY}, {PNG_ALL_FILTERS, Z_DEFAULT_STRATEGY},
+    {PNG_FILTER_NONE, Z_FILTERED},          {PNG_ALL_FILTERS, Z_FILTERED},
+};
+constexpr int kMostMemory = 9;
+
+QByteArray Encoded(const QImage& straight, const PngTrial& trial) {
     const bool opaque = IsOpaque(straight);
     std::vector<png_byte> bytes = Bytes(straight, opaque);
     const std::size_t rowBytes = bytes.size() / static_cast<std::size_t>(straight.height());
@@ -65,16 +76,32 @@ void WritePng(const QImage& image, const QString& path) {
                  static_cast<png_uint_32>(straight.height()), 8,
                  opaque ? PNG_COLOR_TYPE_RGB : PNG_COLOR_TYPE_RGB_ALPHA, PNG_INTERLACE_NONE,
                  PNG_COMPRESSION_TYPE_DEFAULT, PNG_FILTER_TYPE_DEFAULT);
+    png_set_filter(png, PNG_FILTER_TYPE_BASE, trial.filters);
     png_set_compression_level(png, Z_BEST_COMPRESSION);
+    png_set_compression_strategy(png, trial.strategy);
+    png_set_compression_mem_level(png, kMostMemory);
     png_write_info(png, info);
     for (int y = 0; y < straight.height(); ++y) {
         png_write_row(png, bytes.data() + rowBytes * static_cast<std::size_t>(y));
     }
     png_write_end(png, info);
     png_destroy_write_struct(&png, &info);
+    return out;
+}
 
+}  // namespace
+
+void WritePng(const QImage& image, const QString& path) {
+    const QImage straight = image.convertToFormat(QImage::Format_ARGB32);
+    QByteArray smallest;
+    for (const PngTrial& trial : kTrials) {
+        const QByteArray file = Encoded(straight, trial);
+        if (smallest.isEmpty() || file.size() < smallest.size()) {
+            smallest = file;
+        }
+    }
     QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(out) != out.size()) {
+    if (!file.open(QIODevice::WriteOnly) || file.write(smallest) != smallest.size()) {
         throw std::runtime_error("cannot write " + path.toStdString());
     }
 }

@@ -12,11 +12,6 @@ namespace {
 
 constexpr const char* kColorFile = "Colors";
 
-/// What the loader puts behind a file's base name on a screen of scale 2.
-QString ScaleSuffix(int scale) {
-    return scale == 2 ? "_VGA" : "";
-}
-
 void WriteText(const QString& path, const QString& text) {
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(text.toLatin1()) != text.size()) {
@@ -25,8 +20,8 @@ void WriteText(const QString& path, const QString& text) {
 }
 
 void WriteStrip(const Strip& strip, const Tools& tools, const QString& folder) {
-    for (const int scale : {1, 2}) {
-        WritePng(DrawStrip(strip, tools, scale), folder + "/" + strip.key + ScaleSuffix(scale) + ".png");
+    for (const int scale : ScalesOf(strip)) {
+        WritePng(DrawStrip(strip, tools, scale), folder + "/" + strip.key + ScaleMark(scale) + ".png");
     }
 }
 
@@ -57,7 +52,7 @@ void WriteSkin(const Tools& tools, const QString& interfaces) {
         colors += QString("%1 = %2,%3,%4\r\n").arg(key).arg(color.red()).arg(color.green()).arg(color.blue());
     }
     for (const int scale : {1, 2}) {
-        WriteText(folder + "/" + kColorFile + ScaleSuffix(scale) + ".txt", colors);
+        WriteText(folder + "/" + kColorFile + ScaleMark(scale) + ".txt", colors);
     }
     add("BoderColores", QString(kColorFile) + ".txt");
     WriteText(interfaces + "/" + tools.palette.SkinName() + ".inf", skin);

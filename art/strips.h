@@ -23,14 +23,27 @@ enum class Ground {
     kTransparent,  ///< Alpha; what cannot be seen carries the body colour.
 };
 
+/// In which scales a strip is drawn.
+enum class Densities {
+    kScreens,  ///< Those of the device screens, 1 and 2.
+    kDesktop,  ///< 3 and 4 too: what a zoomed window or a dense desktop shows.
+};
+
 /// One picture of a skin. `key` is its key in the skin file; the file is called the same.
 struct Strip {
     const char* key;
     int width;  ///< Units.
     int height;
     Ground ground;
+    Densities densities;
     void (*draw)(Picture& picture, const Tools& tools);
 };
+
+/// The scales of a strip, ascending.
+std::span<const int> ScalesOf(const Strip& strip);
+
+/// What stands behind the base name of a picture's file, by its scale.
+const char* ScaleMark(int scale);
 
 /// Every picture that belongs to a skin, in the order of the skin file.
 std::span<const Strip> SkinStrips();
@@ -39,7 +52,7 @@ std::span<const Strip> SkinStrips();
 /// right.
 const Strip& TexButtonStrip();
 
-/// Draws a strip for one scale, 1 or 2, with straight alpha.
+/// Draws a strip for one of its scales, with straight alpha.
 QImage DrawStrip(const Strip& strip, const Tools& tools, int scale);
 
 // The painters, by family.

@@ -23,7 +23,7 @@ class Typeface {
     Typeface& operator=(const Typeface&) = delete;
 
     /// Width of `text` in device pixels; `em` and `spacing` (after every sign but the last) in device pixels.
-    /// Scale 1 is hinted vertically, scale 2 not at all.
+    /// Scale 1 is hinted vertically, the others not at all.
     double Width(const QString& text, Face face, double em, int scale, double spacing = 0) const;
     /// Sets `text` from `baseline` on, in device pixels, in the painter's pen.
     void Draw(QPainter& painter, QPointF baseline, const QString& text, Face face, double em, int scale,

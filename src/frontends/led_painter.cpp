@@ -117,7 +117,7 @@ void PaintFrame(QPainter& painter, Rect rect, const DisplayFrameColours& frame) 
 
 }  // namespace
 
-void LedPainter::SetTexButton(const Image& picture) {
+void LedPainter::SetTexButton(const DensePicture& picture) {
     texButton_ = ToQImage(picture);
 }
 
@@ -275,8 +275,8 @@ void LedPainter::PaintTexButton(QPainter& painter, const CLedDisplay& display, i
     }
     const Rect place = DisplayPartRect(DisplayPart::texButton, scale);
     const int width = texButton_.width() / 2;
-    painter.drawImage(QPoint(place.left, place.top), texButton_,
-                      QRect(display.TexButtonPressed() ? width : 0, 0, width, texButton_.height()));
+    DrawPicture(painter, QPointF(place.left, place.top), texButton_,
+                QRect(display.TexButtonPressed() ? width : 0, 0, width, texButton_.height()));
 }
 
 }  // namespace quorix

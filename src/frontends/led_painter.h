@@ -13,7 +13,7 @@
 #include "frontends/display_layout.h"
 #include "frontends/led_display.h"
 #include "platform/color.h"
-#include "platform/image.h"
+#include "platform/dense_picture.h"
 
 class QPainter;
 
@@ -25,7 +25,7 @@ using DisplayFrameColours = std::array<ColorRef, 3>;
 class LedPainter {
   public:
     /// The TeX button: the up look at left, the down look at right. Empty: no button is drawn.
-    void SetTexButton(const Image& picture);
+    void SetTexButton(const DensePicture& picture);
 
     /// Width of each token of a line in device pixels, for CLedDisplay::UpdateView.
     std::vector<int> MeasureTokens(std::u16string_view line, std::u16string_view tokenLengths, int scale);

@@ -34,13 +34,18 @@ void LedWnd::SetFrameColours(const DisplayFrameColours& colours) {
     InvalidateAll();
 }
 
-void LedWnd::SetTexButton(const Image& picture) {
-    painter_.SetTexButton(picture);
+void LedWnd::SetTexButton(const std::filesystem::path& file) {
+    texButton_ = file;
+    texButtonDensity_ = 0;
     InvalidateAll();
 }
 
 void LedWnd::Paint(QPainter& painter, const Rect& /*dirty*/) {
     if (display_ != nullptr) {
+        if (texButtonDensity_ != Density()) {
+            texButtonDensity_ = Density();
+            painter_.SetTexButton(LoadDense(texButton_, Scale(), Density()));
+        }
         painter_.Paint(painter, {0, 0, Place().Width(), Place().Height()}, *display_, frame_, Scale());
     }
 }

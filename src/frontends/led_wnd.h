@@ -20,7 +20,8 @@ class LedWnd : public WindowBase {
     /// menu.
     void SetDisplay(CLedDisplay* display, int holdInterval);
     void SetFrameColours(const DisplayFrameColours& colours);
-    void SetTexButton(const Image& picture);
+    /// The file of the TeX button that suits the scale; the picture is read at the first paint.
+    void SetTexButton(const std::filesystem::path& file);
 
   protected:
     void Paint(QPainter& painter, const Rect& dirty) override;
@@ -38,6 +39,8 @@ class LedWnd : public WindowBase {
     Point pressedAt_;
     bool menuOpened_ = false;
     LedPainter painter_;
+    std::filesystem::path texButton_;
+    double texButtonDensity_ = 0;  ///< For which it has been loaded; 0: not yet.
     DisplayFrameColours frame_{};
     QtClipboard clipboard_;
 };

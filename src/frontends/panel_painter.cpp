@@ -1,6 +1,7 @@
 #include "frontends/panel_painter.h"
 
 #include <QPainter>
+#include <cmath>
 
 #include "platform/qt/fonts.h"
 #include "platform/qt/pictures.h"
@@ -40,10 +41,13 @@ QSize PanelPainter::LabelGrid::LabelSize() const {
 void PanelPainter::SetPictures(const PanelPictures& pictures) {
     smallCaps_ = {ToQImage(pictures.smallButtons), kSmallCapRows};
     largeCaps_ = {ToQImage(pictures.largeButtons), kLargeCapRows};
-    smallLabels_ = {ToQImage(pictures.smallFonts), kPageLabels, 1};
     generalLabels_ = {ToQImage(pictures.smallFontsGeneral), kGeneralLabels, 1};
     largeLabels_ = {ToQImage(pictures.largeFonts), kLargeLabelColumns, kLargeLabelRows};
     caps_.clear();
+}
+
+void PanelPainter::SetPageLabels(const DensePicture& smallFonts) {
+    smallLabels_ = {ToQImage(smallFonts), kPageLabels, 1};
 }
 
 void PanelPainter::PaintBody(QPainter& painter, const Rect& client, const BodyColours& colours) {
@@ -63,7 +67,9 @@ const QImage& PanelPainter::CapPicture(PanelCell cell, QSize size, bool down, in
     QImage& cap = caps_[{cell.panel, row, down, size.width(), size.height()}];
     if (cap.isNull()) {
         const CapStrip& strip = cell.panel == Panel::upper ? smallCaps_ : largeCaps_;
-        cap = StretchCap(strip.Cut(row, down), size, kCapCorner * scale);
+        const double ratio = strip.picture.devicePixelRatio();
+        cap = StretchCap(strip.Cut(row, down), (QSizeF(size) * ratio).toSize(),
+                         static_cast<int>(std::lround(kCapCorner * scale * ratio)));
     }
     return cap;
 }
@@ -80,19 +86,23 @@ void PanelPainter::PaintCell(QPainter& painter, Orientation orientation, int sca
                              bool down) {
     const QRect place = ToQRect(CellRect(orientation, cell).Scaled(scale));
     if (!(cell.panel == Panel::upper ? smallCaps_ : largeCaps_).picture.isNull()) {
-        painter.drawImage(place.topLeft(), CapPicture(cell, place.size(), down, scale));
+        const QImage& cap = CapPicture(cell, place.size(), down, scale);
+        DrawPicture(painter, place.topLeft(), cap, cap.rect());
     }
     const Label label = LabelOf(cell);
     if (label.grid->picture.isNull()) {
         return;
     }
     const QSize size = label.grid->LabelSize();
-    const QPoint at(place.x() + (place.width() - size.width()) / 2,
-                    place.y() + (place.height() - size.height()) / 2 + (down ? kPressedDrop * scale : 0));
+    const QSizeF shown = QSizeF(size) / label.grid->picture.devicePixelRatio();
+    // Halves of a device pixel are cut off, so that a label stands alike in every density.
+    const QPointF at(
+        place.x() + std::floor((place.width() - shown.width()) / 2),
+        place.y() + std::floor((place.height() - shown.height()) / 2) + (down ? kPressedDrop * scale : 0));
     const QRect from(QPoint(label.index % label.grid->columns * size.width(),
                             label.index / label.grid->columns * size.height()),
                      size);
-    painter.drawImage(at, label.grid->picture, from);
+    DrawPicture(painter, at, label.grid->picture, from);
 }
 
 void PanelPainter::PaintPanel(QPainter& painter, Orientation orientation, int scale, Panel panel,

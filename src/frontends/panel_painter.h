@@ -8,7 +8,7 @@
 
 #include "frontends/key_panel.h"
 #include "platform/color.h"
-#include "platform/image.h"
+#include "platform/dense_picture.h"
 
 class QPainter;
 
@@ -16,12 +16,10 @@ namespace quorix {
 
 /// The pictures of the panels; empty ones are not drawn.
 struct PanelPictures {
-    Image smallButtons;
-    /// The page of labels of the category, for cells 0 to 11 of the upper panel.
-    Image smallFonts;
-    Image smallFontsGeneral;  ///< Cells 12 to 17.
-    Image largeButtons;
-    Image largeFonts;
+    DensePicture smallButtons;
+    DensePicture smallFontsGeneral;  ///< Labels of the cells 12 to 17 of the upper panel.
+    DensePicture largeButtons;
+    DensePicture largeFonts;
 };
 
 /// Two frame lines of one device pixel, and the body inside them.
@@ -34,8 +32,10 @@ struct BodyColours {
 /// All painters draw in device pixels: logical units times `scale`.
 class PanelPainter {
   public:
-    /// Takes the pictures of a skin or of another category. They may be freed afterwards.
+    /// Takes the pictures of a skin. They may be freed afterwards.
     void SetPictures(const PanelPictures& pictures);
+    /// Takes a category's page of labels, for the cells 0 to 11 of the upper panel.
+    void SetPageLabels(const DensePicture& smallFonts);
 
     static void PaintBody(QPainter& painter, const Rect& client, const BodyColours& colours);
     /// "Landscape" in white, centred in `rect` (device pixels).
@@ -58,6 +58,7 @@ class PanelPainter {
         QImage picture;
         int columns = 1;
         int rows = 1;
+        /// In pixels of the picture.
         [[nodiscard]] QSize LabelSize() const;
     };
     struct Label {

@@ -148,9 +148,7 @@ bool asctoq(std::string_view text, QReal& a) {
         if (parsed.exponent <= -kExponentLimit) parsed.outcome = Outcome::kUnderflow;
     }
     switch (parsed.outcome) {
-        case Outcome::kOverflow:
-            Overflow("asctoq", sign, a);
-            break;
+        case Outcome::kOverflow: Overflow("asctoq", sign, a); break;
         case Outcome::kUnderflow:
             mtherr("asctoq", NUMERIC_UNDERFLOW);
             qclear(a);

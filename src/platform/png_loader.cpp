@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <csetjmp>
 #include <cstring>
+#include <utility>
 
 namespace quorix {
 
@@ -56,17 +57,22 @@ class PngReader {
 
     bool ReadRows() { return Guarded(&PngReader::ReadImage); }
 
-    [[nodiscard]] DecodedPicture Picture() const {
+    /// Once, behind ReadRows.
+    [[nodiscard]] DecodedPicture TakePicture() {
         DecodedPicture picture;
         picture.width = static_cast<int>(png_get_image_width(png_, info_));
         picture.height = static_cast<int>(height_);
         const std::size_t channels = png_get_channels(png_, info_);
+        if (channels == 4) {
+            picture.pixels = std::move(bytes_);
+            return picture;
+        }
         const std::size_t count = static_cast<std::size_t>(picture.width) * height_;
         picture.pixels.resize(count * 4);
         for (std::size_t i = 0; i < count; ++i) {
             std::uint8_t* to = picture.pixels.data() + i * 4;
+            std::memcpy(to, bytes_.data() + i * channels, 3);
             to[3] = 255;
-            std::memcpy(to, bytes_.data() + i * channels, channels);
         }
         return picture;
     }
@@ -162,7 +168,7 @@ DecodedPicture DecodePng(std::span<const std::uint8_t> file) {
     if (!reader.ReadHeader() || !reader.MakeRoom() || !reader.ReadRows()) {
         return {};
     }
-    return reader.Picture();
+    return reader.TakePicture();
 }
 
 }  // namespace quorix

@@ -7,7 +7,7 @@
 #include <iostream>
 #include <optional>
 
-#include "platform/png_loader.h"
+#include "platform/dense_picture.h"
 
 namespace quorix {
 
@@ -51,11 +51,10 @@ bool MainFrameWnd::Create() {
                                                                    .waitCursor = &waitCursor_},
                                           view_.Screen());
     skin_.Select(frame_->Settings().skinFile);
-    if (!skin_.LoadSkinPaths()) {
+    led_->SetDisplay(&frame_->Display(), static_cast<int>(frame_->Settings().tapHoldInterval));
+    if (!ApplyView()) {
         return false;
     }
-    led_->SetDisplay(&frame_->Display(), static_cast<int>(frame_->Settings().tapHoldInterval));
-    ApplyView();
     if (view_.position) {
         move(*view_.position);
     }
@@ -66,39 +65,51 @@ std::filesystem::path MainFrameWnd::SkinPathTried() const {
     return folder_ / std::filesystem::path(kInterfacesFolder) / std::filesystem::path(skin_.SkinFile());
 }
 
-void MainFrameWnd::ApplyView() {
+bool MainFrameWnd::ApplyView() {
     const DeviceScreen screen = view_.Screen();
     skin_.SetScreen(screen);
-    skin_.LoadSkinPaths();
+    const bool skinRead = skin_.LoadSkinPaths();
     SetScale(screen.Scale());
-    LoadPictures();
+    LoadColours();
+    led_->SetTexButton(folder_ / "Resources" / (Scale() == 2 ? "TexButton_VGA.png" : "TexButton.png"));
+    loadedDensity_ = 0;
     LayOut();
     SetZoom(view_.Zoom());
     frame_->SetScreen(screen);
+    return skinRead;
 }
 
-void MainFrameWnd::LoadPictures() {
+void MainFrameWnd::LoadColours() {
     colours_ = {};
     if (const auto path = skin_.FindSkinValue("BoderColores"); !path.empty()) {
         colours_.LoadColours(path);
     }
-    pictures_.largeButtons.Load(skin_.Path(SkinPath::largeButtons));
-    pictures_.smallButtons.Load(skin_.Path(SkinPath::smallButtons));
-    pictures_.largeFonts.Load(skin_.Path(SkinPath::largeFonts));
-    pictures_.smallFontsGeneral.Load(skin_.Path(SkinPath::smallFontsGeneral));
-    LoadPageLabels();
-    Image texButton;
-    texButton.Load(folder_ / "Resources" / (Scale() == 2 ? "TexButton_VGA.png" : "TexButton.png"));
-    led_->SetTexButton(texButton);
     led_->SetFrameColours(
         {colours_[SkinColour::border2], colours_[SkinColour::border3], colours_[SkinColour::border4]});
 }
 
-void MainFrameWnd::LoadPageLabels() {
-    const int category = frame_->CurrentCategory();
-    pictures_.smallFonts.Load(
-        skin_.Path(category <= kLastPanelCategory ? SmallFontsOf(category) : SkinPath::smallFonts));
-    panels_.SetPictures(pictures_);
+/// Reads the pictures that are not there yet in the density of this paint.
+void MainFrameWnd::PreparePictures() {
+    const auto load = [&](const std::filesystem::path& file) { return LoadDense(file, Scale(), Density()); };
+    if (loadedDensity_ != Density()) {
+        const PanelPictures pictures{.smallButtons = load(skin_.Path(SkinPath::smallButtons)),
+                                     .smallFontsGeneral = load(skin_.Path(SkinPath::smallFontsGeneral)),
+                                     .largeButtons = load(skin_.Path(SkinPath::largeButtons)),
+                                     .largeFonts = load(skin_.Path(SkinPath::largeFonts))};
+        panels_.SetPictures(pictures);
+        bodyColour_ = pictures.largeButtons.image.BackgroundColor();
+        loadedDensity_ = Density();
+        loadedCategory_ = -1;
+    }
+    if (const int category = frame_->CurrentCategory(); loadedCategory_ != category) {
+        loadedCategory_ = category;
+        DensePicture labels;
+        if (category <= kLastPanelCategory) {
+            labels = load(skin_.Path(SmallFontsOf(category)));
+        }
+        // The page without functions stands in where a category has none of its own.
+        panels_.SetPageLabels(labels.image.IsEmpty() ? load(skin_.Path(SkinPath::smallFonts)) : labels);
+    }
 }
 
 void MainFrameWnd::LayOut() {
@@ -127,9 +138,8 @@ void MainFrameWnd::InvalidateCell(PanelCell cell) {
 }
 
 void MainFrameWnd::CategoryChanged(int category) {
-    // During start-up the pictures are loaded behind the frame's construction.
+    // During start-up the frame calls before it is there.
     if (frame_) {
-        LoadPageLabels();
         led_->setVisible(ShowsDisplay(category));
     }
 }
@@ -151,12 +161,13 @@ void MainFrameWnd::OpenPopup(PopupId id, PanelCell at, std::vector<std::u16strin
 }
 
 void MainFrameWnd::Paint(QPainter& painter, const Rect& dirty) {
+    PreparePictures();
     const Orientation orientation = frame_->CurrentOrientation();
     const FrameLayout& layout = LayoutOf(orientation);
     PanelPainter::PaintBody(painter, layout.client.Scaled(Scale()),
                             {.outer = colours_[SkinColour::border0],
                              .inner = colours_[SkinColour::border1],
-                             .body = pictures_.largeButtons.BackgroundColor()});
+                             .body = bodyColour_});
     if (layout.landscapeWord.Width() > 0) {
         PanelPainter::PaintLandscapeWord(painter, layout.landscapeWord.Scaled(Scale()), Scale());
     }

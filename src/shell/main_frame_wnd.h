@@ -46,9 +46,10 @@ class MainFrameWnd : public WindowBase, public FrameHost {
 
   private:
     bool DesktopKey(const QKeyEvent& event);
-    void ApplyView();
-    void LoadPictures();
-    void LoadPageLabels();
+    /// False when the skin cannot be read; the window is laid out all the same.
+    bool ApplyView();
+    void LoadColours();
+    void PreparePictures();
     void LayOut();
 
     std::filesystem::path folder_;
@@ -57,8 +58,11 @@ class MainFrameWnd : public WindowBase, public FrameHost {
     ViewSettings view_;
     Skin skin_;
     SkinColours colours_;
-    PanelPictures pictures_;
     PanelPainter panels_;
+    ColorRef bodyColour_ = kWhite;
+    /// What the painter's pictures were loaded for; 0 and -1: not yet.
+    double loadedDensity_ = 0;
+    int loadedCategory_ = -1;
     std::unique_ptr<LedWnd> led_;
     std::unique_ptr<CMainFrame> frame_;
     bool closed_ = false;

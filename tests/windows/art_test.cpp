@@ -43,7 +43,7 @@ Palette PaletteOf(const SkinSource& skin) {
 }
 
 std::filesystem::path FileOf(const SkinSource& skin, const std::string& key, int scale) {
-    return kSource / "assets/Interfaces" / skin.folder / (key + (scale == 2 ? "_VGA.png" : ".png"));
+    return kSource / "assets/Interfaces" / skin.folder / (key + art::ScaleMark(scale) + ".png");
 }
 
 /// Calls check(skin, palette, strip, scale, committed picture) for every picture of every skin.
@@ -52,7 +52,7 @@ void ForEachPicture(const Check& check) {
     for (const SkinSource& skin : kSkins) {
         const Palette palette = PaletteOf(skin);
         for (const Strip& strip : art::SkinStrips()) {
-            for (const int scale : {1, 2}) {
+            for (const int scale : art::ScalesOf(strip)) {
                 SCOPED_TRACE(std::string(skin.folder) + "/" + strip.key + " at scale " +
                              std::to_string(scale));
                 Image picture;

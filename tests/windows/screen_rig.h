@@ -19,12 +19,6 @@ inline constexpr DeviceScreen kPortrait2{480, 640};
 inline constexpr DeviceScreen kPortrait1{240, 320};
 inline constexpr DeviceScreen kLandscape2{640, 480};
 
-inline Image LoadImage(const std::filesystem::path& path) {
-    Image image;
-    image.Load(path);
-    return image;
-}
-
 /// The main window as a picture: a display on a bench, painted with a skin that is staged beside the tests.
 class ScreenRig {
   public:
@@ -33,8 +27,6 @@ class ScreenRig {
         skin.Select(skinFile);
         loaded = skin.LoadSkinPaths();
         colours.LoadColours(skin.FindSkinValue("BoderColores"));
-        const auto tex = ScreenValue("Resources\\TexButton.png", screen.IsVga());
-        led.SetTexButton(LoadImage(ResolvePath(ExecutableFolder(), tex)));
     }
 
     /// zoom: as a window base paints on a wider desktop.
@@ -42,21 +34,23 @@ class ScreenRig {
         const int scale = screen.Scale();
         const Orientation orientation = OrientationOf(screen);
         const FrameLayout& layout = LayoutOf(orientation);
-        const PanelPictures pictures{.smallButtons = LoadImage(skin.Path(SkinPath::smallButtons)),
-                                     .smallFonts = LoadImage(skin.Path(SmallFontsOf(calculator.category))),
-                                     .smallFontsGeneral = LoadImage(skin.Path(SkinPath::smallFontsGeneral)),
-                                     .largeButtons = LoadImage(skin.Path(SkinPath::largeButtons)),
-                                     .largeFonts = LoadImage(skin.Path(SkinPath::largeFonts))};
+        const auto load = [&](const std::filesystem::path& file) { return LoadDense(file, scale, zoom); };
+        const PanelPictures pictures{.smallButtons = load(skin.Path(SkinPath::smallButtons)),
+                                     .smallFontsGeneral = load(skin.Path(SkinPath::smallFontsGeneral)),
+                                     .largeButtons = load(skin.Path(SkinPath::largeButtons)),
+                                     .largeFonts = load(skin.Path(SkinPath::largeFonts))};
         panels.SetPictures(pictures);
+        panels.SetPageLabels(load(skin.Path(SmallFontsOf(calculator.category))));
+        const auto tex = ScreenValue("Resources\\TexButton.png", screen.IsVga());
+        led.SetTexButton(load(ResolvePath(ExecutableFolder(), tex)));
         const Rect client = layout.client.Scaled(scale);
         QImage picture(static_cast<int>(client.Width() * zoom), static_cast<int>(client.Height() * zoom),
                        QImage::Format_RGB32);
         QPainter painter(&picture);
         painter.scale(zoom, zoom);
-        painter.setRenderHint(QPainter::SmoothPixmapTransform);
         PanelPainter::PaintBody(painter, client,
                                 {colours[SkinColour::border0], colours[SkinColour::border1],
-                                 pictures.largeButtons.BackgroundColor()});
+                                 pictures.largeButtons.image.BackgroundColor()});
         panels.PaintPanel(painter, orientation, scale, Panel::upper, looks);
         panels.PaintPanel(painter, orientation, scale, Panel::lower, looks);
         PanelPainter::PaintLandscapeWord(painter, layout.landscapeWord.Scaled(scale), scale);

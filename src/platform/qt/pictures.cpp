@@ -3,16 +3,55 @@
 #include <QColor>
 #include <QPainter>
 #include <array>
+#include <cmath>
 
 namespace quorix {
+
+namespace {
+
+/// Sizes that differ by less are the same number of pixels.
+constexpr double kSamePixels = 0.25;
+
+}  // namespace
 
 QImage ToQImage(const Image& image) {
     if (image.IsEmpty()) {
         return {};
     }
-    const QImage view(image.Bitmap().data(), image.Width(), image.Height(), image.Width() * 4,
-                      QImage::Format_RGBA8888);
-    return view.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    // Qt would convert a large picture in threads, whose start costs more than the work.
+    QImage picture(image.Width(), image.Height(), QImage::Format_ARGB32_Premultiplied);
+    const std::uint8_t* from = image.Bitmap().data();
+    for (int y = 0; y < picture.height(); ++y) {
+        auto* to = reinterpret_cast<QRgb*>(picture.scanLine(y));
+        for (int x = 0; x < picture.width(); ++x, from += 4) {
+            to[x] = qPremultiply(qRgba(from[0], from[1], from[2], from[3]));
+        }
+    }
+    return picture;
+}
+
+QImage ToQImage(const DensePicture& picture) {
+    QImage image = ToQImage(picture.image);
+    image.setDevicePixelRatio(picture.ratio);
+    return image;
+}
+
+void DrawPicture(QPainter& painter, QPointF at, const QImage& picture, const QRect& part) {
+    const QTransform toDevice = painter.deviceTransform();
+    const QRectF exact = toDevice.mapRect(QRectF(at, QSizeF(part.size()) / picture.devicePixelRatio()));
+    const QPoint topLeft(static_cast<int>(std::lround(exact.left())),
+                         static_cast<int>(std::lround(exact.top())));
+    const QPoint end(static_cast<int>(std::lround(exact.right())),
+                     static_cast<int>(std::lround(exact.bottom())));
+    const bool same = std::abs(exact.width() - part.width()) < kSamePixels &&
+                      std::abs(exact.height() - part.height()) < kSamePixels;
+    const QSize size = same ? part.size() : QSize(end.x() - topLeft.x(), end.y() - topLeft.y());
+
+    const QTransform world = painter.worldTransform();
+    painter.setWorldTransform(toDevice.inverted() * world);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, !same);
+    painter.drawImage(QRect(topLeft, size), picture, part);
+    painter.setWorldTransform(world);
 }
 
 QColor ToQColor(ColorRef color) {
@@ -34,9 +73,12 @@ QImage StretchCap(const QImage& cap, QSize size, int corner) {
     if (cap.size() == size) {
         return cap;
     }
+    const double ratio = cap.devicePixelRatio();
     if (size.width() <= 2 * corner || size.height() <= 2 * corner || cap.width() <= 2 * corner ||
         cap.height() <= 2 * corner) {
-        return cap.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        QImage scaled = cap.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        scaled.setDevicePixelRatio(ratio);
+        return scaled;
     }
     const Bands fromX = BandsOf(cap.width(), corner);
     const Bands fromY = BandsOf(cap.height(), corner);
@@ -53,6 +95,8 @@ QImage StretchCap(const QImage& cap, QSize size, int corner) {
             painter.drawImage(to, cap, from);
         }
     }
+    painter.end();
+    stretched.setDevicePixelRatio(ratio);
     return stretched;
 }
 

@@ -8,6 +8,8 @@
 #include <cmath>
 #include <utility>
 
+#include "platform/qt/pictures.h"
+
 namespace quorix {
 
 namespace {
@@ -153,7 +155,6 @@ void WindowBase::PrepareBuffer() {
     QPainter painter(&buffer_);
     painter.scale(zoom_, zoom_);
     painter.setClipRect(ToQRect(dirty));
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
     Paint(painter, dirty);
 }
 
@@ -165,8 +166,10 @@ void WindowBase::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     const double ratio = buffer_.devicePixelRatio();
     const QRect part = event->rect();
-    const QRectF source(part.x() * ratio, part.y() * ratio, part.width() * ratio, part.height() * ratio);
-    painter.drawImage(QRectF(part), buffer_, source);
+    const QRect source =
+        QRectF(part.x() * ratio, part.y() * ratio, part.width() * ratio, part.height() * ratio)
+            .toAlignedRect();
+    DrawPicture(painter, QPointF(source.topLeft()) / ratio, buffer_, source);
 }
 
 Point WindowBase::PenPoint(const QMouseEvent& event) const {

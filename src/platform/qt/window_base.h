@@ -40,6 +40,9 @@ class WindowBase : public QWidget, public Timers {
     /// Desktop points for one device pixel, above 0. Setting it lays the window and its children out anew.
     [[nodiscard]] double Zoom() const { return zoom_; }
     void SetZoom(double zoom);
+    /// Pixels of the desktop for one device pixel: the zoom times the desktop's own ratio, which changes when
+    /// the window moves to another desktop screen. Whoever keeps pictures asks for it when painting.
+    [[nodiscard]] double Density() const { return zoom_ * devicePixelRatioF(); }
 
     /// Place within the parent (for a top-level window: size alone), in device pixels.
     void SetPlace(const Rect& devicePixels);
