@@ -1,0 +1,67 @@
+// Matrix algebra at 30 x 30 beside Eigen.
+
+#include <Eigen/Dense>
+#include <random>
+
+#include "matrix/determinant.h"
+#include "matrix/eigen.h"
+#include "matrix/inversion.h"
+#include "matrix/matrix_algebra.h"
+#include "ratio_report.h"
+
+namespace {
+
+using namespace quorix;
+
+constexpr int kSize = 30;
+using PeerMatrix = Eigen::Matrix<double, Eigen::Dynamic, Eigen::Dynamic, Eigen::RowMajor>;
+
+const CalcValue& Sample() {
+    static const CalcValue sample = [] {
+        std::mt19937 random(5);
+        std::uniform_real_distribution<double> element(-5, 5);
+        CalcValue matrix = MakeMatrix(kSize, kSize);
+        for (int i = 0; i < kSize; ++i) {
+            for (int j = 0; j <= i; ++j) {
+                const double value = element(random) + (i == j ? 3.0 * i : 0.0);
+                matrix.data[static_cast<std::size_t>(i * kSize + j)] = value;
+                matrix.data[static_cast<std::size_t>(j * kSize + i)] = value;
+            }
+        }
+        return matrix;
+    }();
+    return sample;
+}
+
+PeerMatrix PeerSample() {
+    return Eigen::Map<const PeerMatrix>(Sample().data.data(), kSize, kSize);
+}
+
+/// Runs `body` once per iteration and keeps its result alive.
+template <class Body>
+bench::Body Loop(Body body) {
+    return [body](benchmark::State& state) {
+        for (auto _ : state) {
+            benchmark::DoNotOptimize(body());
+        }
+    };
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    const PeerMatrix peer = PeerSample();
+    bench::RegisterPair("determinant", Loop([] { return DeterminantOf(Sample()); }),
+                        Loop([&] { return peer.determinant(); }), 2.5);
+    bench::RegisterPair("inverse", Loop([] {
+                            CalcValue copy = Sample();
+                            InvertInPlace(copy);
+                            return copy;
+                        }),
+                        Loop([&] { return PeerMatrix(peer.inverse()); }), 2.5);
+    bench::RegisterPair(
+        "eigenvalues", Loop([] { return EigenvaluesOf(Sample().data, kSize); }),
+        Loop([&] { return Eigen::SelfAdjointEigenSolver<PeerMatrix>(peer, Eigen::ComputeEigenvectors); }),
+        45);
+    return bench::RunPairs(argc, argv);
+}
