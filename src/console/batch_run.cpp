@@ -8,7 +8,7 @@
 namespace quorix {
 namespace {
 
-constexpr std::size_t kBlock = 64 * 1024;
+constexpr std::size_t kBlock = 65536;
 
 bool WriteAll(int descriptor, std::string_view text) {
     while (!text.empty()) {

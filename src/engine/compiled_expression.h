@@ -76,7 +76,8 @@ class CompiledExpression {
   private:
     // In bytes: the comparison of 16-bit characters one by one would take a quarter of an evaluation.
     static bool IsSameText(std::u16string_view a, const std::u16string& b) {
-        return a.size() == b.size() && std::memcmp(a.data(), b.data(), a.size() * sizeof(char16_t)) == 0;
+        return a.size() == b.size() &&
+               (a.empty() || std::memcmp(a.data(), b.data(), a.size() * sizeof(char16_t)) == 0);
     }
 
     // The order of the tests is the order of meanings: operators first, then numbers, then names.

@@ -1,7 +1,9 @@
 #include <fcntl.h>
 #include <gmock/gmock.h>
+#include <poll.h>
 #include <pty.h>
 #include <sys/wait.h>
+#include <termios.h>
 #include <unistd.h>
 
 #include <filesystem>
@@ -221,6 +223,12 @@ TEST_F(ConsoleTest, TheProgramTellsSuccessByItsStatus) {
     }
 }
 
+// The editor sets the terminal to single keys a moment after it has written the prompt.
+bool IsRaw(int terminal) {
+    termios modes{};
+    return tcgetattr(terminal, &modes) != 0 || (modes.c_lflag & ICANON) == 0;
+}
+
 TEST_F(ConsoleTest, ThePromptEditsAndKeepsAHistory) {
     const std::filesystem::path home = std::filesystem::path(testing::TempDir()) / "quorix_prompt";
     std::filesystem::remove_all(home);
@@ -238,21 +246,26 @@ TEST_F(ConsoleTest, ThePromptEditsAndKeepsAHistory) {
         std::string_view expected, keys;
     };
     const Step steps[] = {{"", "21\b+40\r"}, {"\n42\r\n", "\x10*2\r"}, {"\n82\r\n", "\x04"}};
+    constexpr int kPatience = 20000;  // Milliseconds.
     std::size_t step = 0;
     std::string screen;
     char block[1024];
-    for (ssize_t length; (length = read(terminal, block, sizeof block)) > 0;) {
+    pollfd waiting{terminal, POLLIN, 0};
+    while (poll(&waiting, 1, kPatience) > 0) {
+        const ssize_t length = read(terminal, block, sizeof block);
+        if (length <= 0) break;
         screen.append(block, static_cast<std::size_t>(length));
         if (step == std::size(steps)) continue;
         const std::size_t answer = screen.find(steps[step].expected);
         if (answer == std::string::npos || screen.find("> ", answer) == std::string::npos) continue;
+        while (!IsRaw(terminal)) usleep(1000);
         const std::string_view keys = steps[step++].keys;
         EXPECT_EQ(write(terminal, keys.data(), keys.size()), static_cast<ssize_t>(keys.size()));
     }
+    close(terminal);  // Hangs up on a program that still waits.
     int status = -1;
     waitpid(child, &status, 0);
-    close(terminal);
-    EXPECT_EQ(status, 0);
+    EXPECT_EQ(status, 0) << testing::PrintToString(screen);
     EXPECT_THAT(screen, HasSubstr("\n42\r\n"));
     EXPECT_THAT(screen, HasSubstr("\n82\r\n"));
     std::ifstream file(home / "quorix" / "history");
