@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "engine/complex_operands.h"
+#include "engine/complex_function_operators.h"
 #include "engine/complex_operator_table.h"
 #include "engine/identifiers.h"
 #include "engine/radix_digits.h"
@@ -62,7 +63,8 @@ bool IsFunctionKey(std::u16string_view token) {
 }
 
 const OperatorRow<QComplex>* FindKeyOperator(std::u16string_view name) {
-    return ComplexOperatorTable().Find(name);
+    static constexpr OperatorRow<QComplex> kExponential{u"exp", 1, ComplexExponential};
+    return name == kExponential.name ? &kExponential : ComplexOperatorTable().Find(name);
 }
 
 void KeyMachine::ReplaceTop(const QComplex& value) {
