@@ -119,24 +119,60 @@ bool HasRealOperand(const ComplexStack& stack, std::int32_t base) {
 
 }  // namespace
 
-void ComplexSin(ComplexStack& stack, std::int32_t base) { ApplyDirect<qcsin>(stack, base); }
-void ComplexCos(ComplexStack& stack, std::int32_t base) { ApplyDirect<qccos>(stack, base); }
-void ComplexSec(ComplexStack& stack, std::int32_t base) { ApplyReciprocal<qccos>(stack, base); }
-void ComplexCsc(ComplexStack& stack, std::int32_t base) { ApplyReciprocal<qcsin>(stack, base); }
-void ComplexAsin(ComplexStack& stack, std::int32_t base) { ApplyInverse<qcasin>(stack, base); }
-void ComplexAcos(ComplexStack& stack, std::int32_t base) { ApplyInverse<qcacos>(stack, base); }
-void ComplexAtan(ComplexStack& stack, std::int32_t base) { ApplyInverse<qcatan>(stack, base); }
-void ComplexAsec(ComplexStack& stack, std::int32_t base) { ApplyInverseOfReciprocal<qcacos>(stack, base); }
-void ComplexAcsc(ComplexStack& stack, std::int32_t base) { ApplyInverseOfReciprocal<qcasin>(stack, base); }
-void ComplexSinh(ComplexStack& stack, std::int32_t base) { ApplyDirect<qcsinh>(stack, base); }
-void ComplexCosh(ComplexStack& stack, std::int32_t base) { ApplyDirect<qccosh>(stack, base); }
-void ComplexTanh(ComplexStack& stack, std::int32_t base) { ApplyDirect<qctanh>(stack, base); }
-void ComplexCsch(ComplexStack& stack, std::int32_t base) { ApplyReciprocal<qcsinh>(stack, base); }
-void ComplexAsinh(ComplexStack& stack, std::int32_t base) { ApplyInverse<qcasinh>(stack, base); }
-void ComplexAcosh(ComplexStack& stack, std::int32_t base) { ApplyInverse<qcacosh>(stack, base); }
-void ComplexAtanh(ComplexStack& stack, std::int32_t base) { ApplyInverse<qcatanh>(stack, base); }
-void ComplexAsech(ComplexStack& stack, std::int32_t base) { ApplyInverseOfReciprocal<qcacosh>(stack, base); }
-void ComplexAcsch(ComplexStack& stack, std::int32_t base) { ApplyInverseOfReciprocal<qcasinh>(stack, base); }
+void ComplexSin(ComplexStack& stack, std::int32_t base) {
+    ApplyDirect<qcsin>(stack, base);
+}
+void ComplexCos(ComplexStack& stack, std::int32_t base) {
+    ApplyDirect<qccos>(stack, base);
+}
+void ComplexSec(ComplexStack& stack, std::int32_t base) {
+    ApplyReciprocal<qccos>(stack, base);
+}
+void ComplexCsc(ComplexStack& stack, std::int32_t base) {
+    ApplyReciprocal<qcsin>(stack, base);
+}
+void ComplexAsin(ComplexStack& stack, std::int32_t base) {
+    ApplyInverse<qcasin>(stack, base);
+}
+void ComplexAcos(ComplexStack& stack, std::int32_t base) {
+    ApplyInverse<qcacos>(stack, base);
+}
+void ComplexAtan(ComplexStack& stack, std::int32_t base) {
+    ApplyInverse<qcatan>(stack, base);
+}
+void ComplexAsec(ComplexStack& stack, std::int32_t base) {
+    ApplyInverseOfReciprocal<qcacos>(stack, base);
+}
+void ComplexAcsc(ComplexStack& stack, std::int32_t base) {
+    ApplyInverseOfReciprocal<qcasin>(stack, base);
+}
+void ComplexSinh(ComplexStack& stack, std::int32_t base) {
+    ApplyDirect<qcsinh>(stack, base);
+}
+void ComplexCosh(ComplexStack& stack, std::int32_t base) {
+    ApplyDirect<qccosh>(stack, base);
+}
+void ComplexTanh(ComplexStack& stack, std::int32_t base) {
+    ApplyDirect<qctanh>(stack, base);
+}
+void ComplexCsch(ComplexStack& stack, std::int32_t base) {
+    ApplyReciprocal<qcsinh>(stack, base);
+}
+void ComplexAsinh(ComplexStack& stack, std::int32_t base) {
+    ApplyInverse<qcasinh>(stack, base);
+}
+void ComplexAcosh(ComplexStack& stack, std::int32_t base) {
+    ApplyInverse<qcacosh>(stack, base);
+}
+void ComplexAtanh(ComplexStack& stack, std::int32_t base) {
+    ApplyInverse<qcatanh>(stack, base);
+}
+void ComplexAsech(ComplexStack& stack, std::int32_t base) {
+    ApplyInverseOfReciprocal<qcacosh>(stack, base);
+}
+void ComplexAcsch(ComplexStack& stack, std::int32_t base) {
+    ApplyInverseOfReciprocal<qcasinh>(stack, base);
+}
 
 void ComplexTan(ComplexStack& stack, std::int32_t base) {
     if (!HasOperands(stack, base, 1)) {

@@ -9,8 +9,8 @@ namespace quorix {
 
 using ComplexStack = OperandStack<QComplex>;
 
-// Circular and hyperbolic functions take their argument in the angle unit, inverses give their result in it; the
-// hyperbolic ones too, which is intended.
+// Circular and hyperbolic functions take their argument in the angle unit, inverses give their result in it;
+// the hyperbolic ones too, which is intended.
 void ComplexSin(ComplexStack& stack, std::int32_t base);
 void ComplexCos(ComplexStack& stack, std::int32_t base);
 /// -56 at the first pole on each side.
@@ -48,7 +48,8 @@ void ComplexKeyScale(ComplexStack& stack, std::int32_t base);
 /// e to the top: the key engines' "exp".
 void ComplexExponential(ComplexStack& stack, std::int32_t base);
 void ComplexSquareRoot(ComplexStack& stack, std::int32_t base);
-/// Product 2·3·... up to the largest integer not above the operand; -54 for an imaginary part, -56 below 0 and above 1500.
+/// Product 2·3·... up to the largest integer not above the operand; -54 for an imaginary part, -56 below 0
+/// and above 1500.
 void ComplexFactorial(ComplexStack& stack, std::int32_t base);
 /// A hundredth; -54 for an imaginary part.
 void ComplexPercent(ComplexStack& stack, std::int32_t base);

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "engine/complex_operands.h"
 #include "engine/complex_function_operators.h"
+#include "engine/complex_operands.h"
 #include "engine/complex_operator_table.h"
 #include "engine/identifiers.h"
 #include "engine/radix_digits.h"

@@ -9,7 +9,7 @@
 
 #include "engine/calc_context.h"
 #include "engine/engine_errors.h"
-#include "engine/radix_digits.h"
+#include "engine/integer_operations.h"
 #include "numerics/constants.h"
 #include "numerics/qcore.h"
 
@@ -195,9 +195,8 @@ QReal CallComplement(NamedArguments& arguments, int radix, Complement complement
         calcContext().calcError = ERROR_INTEGER_TYPE;
         return {};
     }
-    const auto word = static_cast<std::uint32_t>(static_cast<std::int64_t>(value));
-    const std::uint32_t result = complement == Complement::ones ? ~word : 0U - word;
-    return FromDouble(result & WordMask(calcContext().wordSize));
+    const auto operation = complement == Complement::ones ? IntegerNot : IntegerNegate;
+    return FromDouble(operation(value, calcContext().wordSize).value);
 }
 
 }  // namespace quorix
