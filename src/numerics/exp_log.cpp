@@ -55,8 +55,7 @@ Wide LogOnePlus(const Wide& x) {
     const auto& reciprocals = OddReciprocals();
     Mantissa sum = reciprocals[terms];
     for (std::size_t k = terms; k-- > 1;) {
-        sum = limbs::UpperProduct(sum, w);
-        limbs::Add(sum, reciprocals[k]);
+        limbs::AddProduct(sum, w, reciprocals[k]);
     }
     return Scaled(z + z * FromFraction(limbs::UpperProduct(sum, w)), 1);
 }

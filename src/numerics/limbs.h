@@ -37,7 +37,7 @@ inline constexpr Limb kGuardMask = ~Limb{0xFFFFFFFF};
 inline constexpr Limb kTopBit = Limb{1} << 63;
 
 /// a + b + carry; carry becomes the carry out.
-inline Limb AddWithCarry(Limb a, Limb b, unsigned char& carry) {
+[[gnu::always_inline]] inline Limb AddWithCarry(Limb a, Limb b, unsigned char& carry) {
 #if defined(__x86_64__)
     unsigned long long sum;
     carry = _addcarry_u64(carry, a, b, &sum);
@@ -50,7 +50,7 @@ inline Limb AddWithCarry(Limb a, Limb b, unsigned char& carry) {
 }
 
 /// a - b - borrow; borrow becomes the borrow out.
-inline Limb SubtractWithBorrow(Limb a, Limb b, unsigned char& borrow) {
+[[gnu::always_inline]] inline Limb SubtractWithBorrow(Limb a, Limb b, unsigned char& borrow) {
 #if defined(__x86_64__)
     unsigned long long difference;
     borrow = _subborrow_u64(borrow, a, b, &difference);
@@ -230,7 +230,7 @@ inline void Negate(Mantissa& m) {
 /// Limbs 6 to 11 of a product: the sum of products(i, j) of limbs i and j with i + j >= 6 and of what the
 /// columns below bring into limb 6 and higher.
 template <class Products>
-inline Mantissa UpperLimbs(DoubleLimb fromBelow, Products&& products) {
+[[gnu::always_inline]] inline Mantissa UpperLimbs(DoubleLimb fromBelow, Products&& products) {
     Mantissa result;
     Limb low = Low(fromBelow), middle = High(fromBelow), high = 0;
     Unrolled<kLimbs - 1>([&](auto k) {
@@ -254,11 +254,21 @@ inline Mantissa UpperLimbs(DoubleLimb fromBelow, Products&& products) {
 
 /// The upper half of a product, too small by less than 12 units of limb 0: of the products of the column
 /// below it only the upper limbs are added.
-inline Mantissa UpperProduct(const Mantissa& a, const Mantissa& b) {
+inline Mantissa InlineUpperProduct(const Mantissa& a, const Mantissa& b) {
     DoubleLimb fromBelow = 0;
     Unrolled<kLimbs>([&](auto i) { fromBelow += High(Product(a[i], b[kLimbs - 1 - i])); });
     return UpperLimbs(fromBelow, [&](auto i, auto j) { return Product(a[i], b[j]); });
 }
+
+/// The same out of line.
+Mantissa UpperProduct(const Mantissa& a, const Mantissa& b);
+
+/// Steps of Horner's rule and of a continued fraction, out of line and in place: within a loop the compiler
+/// keeps carries in memory, and copies of limbs just written wait for each other. m = c + m * factor; m = c -
+/// m * factor; m = whole * n + m * factor.
+void AddProduct(Mantissa& m, const Mantissa& factor, const Mantissa& c);
+void SubtractProduct(Mantissa& m, const Mantissa& factor, const Mantissa& c);
+void AddProduct(Mantissa& m, const Mantissa& factor, Limb whole, const Mantissa& n);
 
 /// m = m * factor + addend; gives the limb that leaves at the top.
 inline Limb MultiplyShort(Mantissa& m, Limb factor, Limb addend = 0) {

@@ -33,7 +33,7 @@ inline int ShiftProduct(Mantissa& product) {
 [[gnu::always_inline]] inline Unpacked MultiplyNonZero(const Unpacked& a, const Unpacked& b) {
     Unpacked result;
     result.sign = a.sign ^ b.sign;
-    result.mantissa = limbs::UpperProduct(a.mantissa, b.mantissa);
+    result.mantissa = limbs::InlineUpperProduct(a.mantissa, b.mantissa);
     int shift = ShiftProduct(result.mantissa);
     if (!RoundingIsClear(result.mantissa)) [[unlikely]] {
         result.mantissa = ProductByWords(a.mantissa, b.mantissa);

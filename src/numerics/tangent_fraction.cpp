@@ -23,14 +23,14 @@ TangentFraction HyperbolicTangentFraction(const Mantissa& z, int levels) {
         limbs::MultiplyShort(m, factor);
         return m;
     };
-    TangentFraction fraction{power(scale, static_cast<limbs::Limb>(last)), power(scale, 1)};
+    // The denominator's place takes the next numerator, and the two change roles.
+    std::array<Mantissa, 2> parts{power(scale, static_cast<limbs::Limb>(last)), power(scale, 1)};
+    std::size_t numerator = 0;
     for (int m = last - 2; m > 0; m -= 2) {
-        Mantissa numerator = fraction.numerator;
-        limbs::MultiplyShort(numerator, static_cast<limbs::Limb>(m));
-        limbs::Add(numerator, limbs::UpperProduct(fraction.denominator, z));
-        fraction = {numerator, fraction.numerator};
+        limbs::AddProduct(parts[1 - numerator], z, static_cast<limbs::Limb>(m), parts[numerator]);
+        numerator = 1 - numerator;
     }
-    return fraction;
+    return {parts[numerator], parts[1 - numerator]};
 }
 
 }  // namespace quorix
