@@ -5,8 +5,10 @@
 #include <QTimer>
 #include <iostream>
 
+#include "engine/busy_signal.h"
 #include "platform/program_folder.h"
 #include "platform/qt/fonts.h"
+#include "platform/qt/qt_wait_cursor.h"
 #include "shell/main_frame_wnd.h"
 
 namespace {
@@ -35,6 +37,8 @@ int main(int argc, char** argv) {
     if (!window.Create()) {
         return EndStart(window.SkinPathTried());
     }
+    quorix::QtWaitCursor waitCursor;
+    quorix::SetBusySignal([&waitCursor](bool busy) { busy ? waitCursor.Show() : waitCursor.Hide(); });
     window.show();
     return QApplication::exec();
 }

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "engine/bound_expression.h"
+#include "engine/busy_signal.h"
 #include "engine/calc_context.h"
 #include "engine/engine_errors.h"
 #include "numerics/qcore.h"
@@ -139,6 +140,7 @@ QReal CallIntegral(NamedArguments& arguments) {
         std::swap(lower, upper);
     }
     const BoundExpressionScope scope({std::move(expression), std::move(variable)});
+    const BusyScope busy;
     ClearCalcError();
     const double value =
         Romberg([](double x) { return EvalBoundDouble(x, boundExpression().text); }, lower, upper);

@@ -58,7 +58,12 @@ QReal CallSeries(NamedArguments& arguments, Series series) {
     QReal result = series == Series::sum ? constants::kZero : constants::kOne;
     QReal value = from;
     do {
-        const QReal term = EvaluateRealText(TermText(expression, variable, PastedTermValue(value)), 10);
+        const std::u16string text = TermText(expression, variable, PastedTermValue(value));
+        if (text.size() > kMaxExpressionLength) {
+            calcContext().calcError = ERROR_PARENTHESIS;
+            return {};
+        }
+        const QReal term = EvaluateRealText(text, 10);
         if (calcContext().calcError != 0) {
             return {};
         }

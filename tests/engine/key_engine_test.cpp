@@ -76,7 +76,9 @@ TEST_F(KeyEngineTest, StandardSequencesEndInWhatTheUserExpects) {
         {"1 + 2 / 0 * 3 =", "error -56"},
         {"2 + ) ", "error -8"},
         {"2 nosuch", "error -1"},
-        {"5 sin", "error -1"},  // A function that has no row.
+        {"5 sin", "0.08715574274765817355806427083747"},
+        {"5 ctan", "error -1"},  // A function that has no row.
+        {"8 ln = =", "0.73209936808644536438280607868986"},
         {"1e6000", "error -56"},
         {"i", "0"},
     };
@@ -95,7 +97,7 @@ TEST_F(KeyEngineTest, EqualsPressedAgainRepeats) {
         {"5 = =", "5"},
         {"2 + 3 = 10 =", "10"},
         {"2 + 3 = 10 = =", "13"},
-        {"9 ^ 2 DoNothing =", "error -1"},
+        {"9 ^ 2 DoNothing =", "81"},
         {"2 * 3 = = + 1 =", "19"},
         {"2 + 3 = NEG =", "-5"},
         {"=", "0"},
@@ -159,7 +161,7 @@ TEST_F(KeyEngineTest, PolishSequences) {
         {"5 -", "-5"},        // One operand is negated.
         {"+", "error -1"},
         {"5 +", "error -1"},
-        {"5 sin", "error -1"},
+        {"5 sin", "0.08715574274765817355806427083747"},
         {"2 ( 3 =", "3"},
         {"1 0 ( 4 DoNothing 5 *", "20"},
         {"5 .. 2 ( PI Pop", "3.1415926535897932384626433832795"},
