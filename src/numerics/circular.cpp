@@ -93,10 +93,13 @@ constexpr int kSnapExponent = 64;
 // The argument and pi are known to 336 bits, and conversions from degrees round twice.
 constexpr int kSnapBits = 333;
 
-// What cannot be told from a multiple of pi/2 counts as one: the sine or cosine is 0 there.
+// Whether a sine or cosine of a stored x is as near to 0 as roundings of x alone can bring it.
+bool Vanishes(const Wide& value, const Wide& x) {
+    return x.exponent > 0 && x.exponent <= kSnapExponent && value.exponent < x.exponent - kSnapBits;
+}
+
 void NarrowCircular(const Wide& value, const Wide& x, QReal& result) {
-    if (x.exponent > 0 && x.exponent <= kSnapExponent && value.exponent < x.exponent - kSnapBits)
-        return qclear(result);
+    if (Vanishes(value, x)) return qclear(result);
     Narrow(value, "qsin", result);
 }
 
@@ -121,6 +124,13 @@ SinCos SineAndCosine(const Wide& x) {
             result = {-far, near};
     }
     if (x.IsNegative()) result.sin = -result.sin;
+    return result;
+}
+
+SinCos SineAndCosineOfStored(const Wide& x) {
+    SinCos result = SineAndCosine(x);
+    if (Vanishes(result.sin, x)) result = {kWideZero, WithSignOf(kWideOne, result.cos)};
+    if (Vanishes(result.cos, x)) result = {WithSignOf(kWideOne, result.sin), kWideZero};
     return result;
 }
 

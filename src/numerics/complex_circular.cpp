@@ -14,7 +14,7 @@ struct Parts {
 // The functions of the real part of z and the hyperbolic ones of the imaginary part; a zero part costs
 // nothing.
 Parts Evaluate(const WideComplex& z) {
-    const auto [sine, cosine] = SineAndCosine(z.re);
+    const auto [sine, cosine] = SineAndCosineOfStored(z.re);
     if (z.im.IsZero()) return {sine, cosine, kWideZero, kWideOne};
     return {sine, cosine, Sinh(z.im), Cosh(z.im)};
 }
@@ -32,6 +32,8 @@ WideComplex Cosine(const WideComplex& z) {
 // With d = cos^2 x + sinh^2 y the tangent is (sin x cos x / d, sinh y cosh y / d).
 WideComplex Tangent(const WideComplex& z) {
     if (z.im.IsZero()) {
+        if (SineAndCosineOfStored(z.re).sin.IsZero()) return {};
+        // Not the cosine that may be 0: a pole gives a very large number.
         const auto [sine, cosine] = SineAndCosine(z.re);
         return {sine / cosine, kWideZero};
     }
@@ -57,7 +59,7 @@ WideComplex Cotangent(const WideComplex& z) {
 
 }  // namespace
 
-// Real arguments go the way of the real functions, with their zeros at multiples of a quarter turn.
+// Real arguments need only one of the two series.
 void qcsin(const QComplex& z, QComplex& result) {
     if (z.im.IsZero()) {
         qsin(z.re, result.re);
@@ -79,12 +81,13 @@ void qctan(const QComplex& z, QComplex& result) {
 }
 
 void qccot(const QComplex& z, QComplex& result) {
-    if (z.re.IsZero() && z.im.IsZero()) {
+    const WideComplex wide = Widen(z);
+    if (wide.im.IsZero() && SineAndCosineOfStored(wide.re).sin.IsZero()) {
         mtherr("qcdiv", NUMERIC_OVERFLOW);
         result = {};
         return qinfin(result.re);
     }
-    Narrow(Cotangent(Widen(z)), "qcdiv", result);
+    Narrow(Cotangent(wide), "qcdiv", result);
 }
 
 // sinh z = -i sin iz, cosh z = cos iz, tanh z = -i tan iz.

@@ -96,7 +96,13 @@ void qcabs(const QComplex& z, QReal& result) {
 }
 
 void qcexp(const QComplex& z, QComplex& result) {
-    Narrow(Exp(Widen(z)), "qexp", result);
+    if (z.im.IsZero()) {
+        qexp(z.re, result.re);
+        return qclear(result.im);
+    }
+    const Wide magnitude = Exp(Widen(z.re));
+    const auto [sine, cosine] = SineAndCosineOfStored(Widen(z.im));
+    Narrow(WideComplex{magnitude * cosine, magnitude * sine}, "qexp", result);
 }
 
 void qclog(const QComplex& z, QComplex& result) {

@@ -58,7 +58,7 @@ void qccos(const QComplex& z, QComplex& result);
 /// Poles cannot be hit by a rounded argument: tan(pi/2) is a very large number. Never reports for large
 /// imaginary parts.
 void qctan(const QComplex& z, QComplex& result);
-/// 1/tan; cot(0) reports "qcdiv" with the infinity.
+/// 1/tan; multiples of pi report "qcdiv" overflow, with the infinity.
 void qccot(const QComplex& z, QComplex& result);
 void qcsinh(const QComplex& z, QComplex& result);
 void qccosh(const QComplex& z, QComplex& result);

@@ -19,6 +19,9 @@ struct SinCos {
 };
 /// Any argument of the stored range, reduced by pi to full precision.
 SinCos SineAndCosine(const Wide& x);
+/// The same for an argument that is a stored number: what 336 bits cannot tell from a multiple of pi/2 counts
+/// as one, so that one of the two is 0 there. Arguments beyond 2^64 are taken as they stand.
+SinCos SineAndCosineOfStored(const Wide& x);
 
 Wide Sinh(const Wide& x);
 Wide Cosh(const Wide& x);

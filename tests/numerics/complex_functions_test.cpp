@@ -152,6 +152,8 @@ TEST(ComplexFunctions, CutsAndPrincipalValues) {
         {"sqrt(-4)", qcsqrt, C("-4", "0"), "0", "2"},
         {"sqrt(3-4i)", qcsqrt, C("3", "-4"), "2", "-1"},
         {"exp(0)", qcexp, C("0", "0"), "1", "0"},
+        {"exp(i pi)", qcexp, {QReal{}, constants::kPi}, "-1", "0"},
+        {"tan(pi)", qctan, {constants::kPi, QReal{}}, "0", "0"},
     };
     ClearNumericError();
     for (const auto& row : rows) {
@@ -203,6 +205,11 @@ TEST(ComplexFunctions, PolesAreReported) {
         {"ln(0)", [](QComplex& r) { qclog({}, r); }, NUMERIC_SINGULARITY},
         {"atan(i)", [](QComplex& r) { qcatan(C("0", "1"), r); }, NUMERIC_SINGULARITY},
         {"cot(0)", [](QComplex& r) { qccot({}, r); }, NUMERIC_OVERFLOW},
+        {"cot(pi)",
+         [](QComplex& r) {
+             qccot({constants::kPi, QReal{}}, r);
+         },
+         NUMERIC_OVERFLOW},
         {"0^-1", [](QComplex& r) { qcpow({}, C("-1", "0"), r); }, NUMERIC_DOMAIN},
         {"0^i", [](QComplex& r) { qcpow({}, C("0", "1"), r); }, NUMERIC_DOMAIN},
         {"exp(20000+i)", [](QComplex& r) { qcexp(C("20000", "1"), r); }, NUMERIC_OVERFLOW},

@@ -1,7 +1,8 @@
 #pragma once
 
 // The arithmetic core word by word, as its rules read: the oracle that the core on limbs equals bit for bit.
-// Reports go through quorix::mtherr.
+// Reports go through quorix::mtherr. One source file, however long, so that a test or a fuzzer takes it in
+// whole.
 
 #include <cstdint>
 #include <string>
