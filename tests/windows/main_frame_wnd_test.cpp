@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMouseEvent>
+#include <QScreen>
 
 #include "platform/program_folder.h"
 #include "platform/utf8.h"
@@ -100,6 +101,18 @@ TEST_F(MainFrameWndTest, ClosingKeepsTheLineForTheNextStart) {
     EXPECT_EQ(Row(*window), "1÷3");
     EXPECT_EQ(window->Frame().CurrentCategory(), CATEGORY_TRIGONOMETRY);
     EXPECT_EQ(window->Frame().CurrentOrientation(), Orientation::landscape);
+}
+
+TEST_F(MainFrameWndTest, AnOddViewFileGivesAWindowThatCanBeReached) {
+    const auto shows = [&](std::string_view content) {
+        folder_.Write("view.ini", content);
+        const auto window = Open();
+        return QGuiApplication::primaryScreen()->geometry().contains(window->pos());
+    };
+    EXPECT_TRUE(shows("[General]\nzoom=100\nx=30\ny=40\n"));
+    EXPECT_TRUE(shows("[General]\nzoom=1e9\nshape=round\nx=-5000\ny=99999999999\n"));
+    EXPECT_TRUE(shows("[General]\nx=9000\ny=100\n"));
+    EXPECT_TRUE(shows("[[[\n=\n"));
 }
 
 TEST_F(MainFrameWndTest, APressRepaintsItsCellAlone) {

@@ -14,6 +14,9 @@ constexpr int kZooms[] = {50, 100, 150, 200};
 constexpr const char* kShapeNames[] = {"portrait", "landscape", "square"};
 /// Room that the desktop's own frame takes of the height.
 constexpr int kFrameHeight = 52;
+/// Height of what a window can be moved by, and how much of it must be seen.
+constexpr int kHeadHeight = 40;
+constexpr int kLeastSeen = 20;
 
 QString FileOf(const std::filesystem::path& folder) {
     return QString::fromStdString((folder / "view.ini").string());
@@ -26,6 +29,16 @@ bool FitsDesktop(const DeviceScreen& screen) {
     }
     const QSize room = desktop->availableSize();
     return screen.width <= room.width() && screen.height - kFrameHeight <= room.height();
+}
+
+/// The part of a window by which it can be moved must show on a desktop screen.
+bool HeadIsOnDesktop(QPoint position, const DeviceScreen& screen) {
+    const QRect head(position, QSize(screen.width, kHeadHeight));
+    const QList<QScreen*> desktops = QGuiApplication::screens();
+    return std::any_of(desktops.begin(), desktops.end(), [&](const QScreen* desktop) {
+        const QRect seen = desktop->availableGeometry().intersected(head);
+        return seen.width() >= kLeastSeen && seen.height() >= kLeastSeen;
+    });
 }
 
 }  // namespace
@@ -67,7 +80,10 @@ ViewSettings LoadViewSettings(const std::filesystem::path& folder) {
         settings.zoomPercent = kZooms[0];
     }
     if (file.contains("x") && file.contains("y")) {
-        settings.position = QPoint(file.value("x").toInt(), file.value("y").toInt());
+        const QPoint position(file.value("x").toInt(), file.value("y").toInt());
+        if (HeadIsOnDesktop(position, settings.Screen())) {
+            settings.position = position;
+        }
     }
     return settings;
 }

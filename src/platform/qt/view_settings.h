@@ -31,6 +31,7 @@ int ZoomAfter(int zoomPercent, int step);
 
 /// Reads "view.ini" of the program folder; an absent or odd file gives the defaults: portrait at 100 %, or at
 /// 50 % where the desktop is too small for it. Needs a running QApplication.
+/// A position from which no desktop screen shows the window's head is dropped: that screen is gone.
 ViewSettings LoadViewSettings(const std::filesystem::path& folder);
 void SaveViewSettings(const std::filesystem::path& folder, const ViewSettings& settings);
 
