@@ -7,6 +7,7 @@
 #include <cstdlib>
 
 #include "frontends/context_menu.h"
+#include "platform/qt/popup_menu.h"
 
 namespace quorix {
 
@@ -96,8 +97,7 @@ void LedWnd::OpenContextMenu(QPoint globalPosition) {
         return;
     }
     menuOpened_ = true;
-    auto* const menu = new QMenu(this);
-    menu->setAttribute(Qt::WA_DeleteOnClose);
+    QMenu* const menu = NewPopupMenu(this, Scale() * Zoom());
     for (const ContextMenuItem& item : ContextMenuOf(*display_, clipboard_)) {
         QAction* const action = menu->addAction(ToQString(item.text));
         action->setEnabled(item.enabled);

@@ -8,6 +8,7 @@
 #include <optional>
 
 #include "platform/dense_picture.h"
+#include "platform/qt/popup_menu.h"
 
 namespace quorix {
 
@@ -145,8 +146,7 @@ void MainFrameWnd::CategoryChanged(int category) {
 }
 
 void MainFrameWnd::OpenPopup(PopupId id, PanelCell at, std::vector<std::u16string_view> items) {
-    auto* const menu = new QMenu(this);
-    menu->setAttribute(Qt::WA_DeleteOnClose);
+    QMenu* const menu = NewPopupMenu(this, Scale() * Zoom());
     for (std::size_t i = 0; i < items.size(); ++i) {
         const bool available = id != POPUP_CATEGORIES || frame_->CategoryAvailable(static_cast<int>(i));
         if (available) {
