@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "frontends/key_codes.h"
+#include "frontends/key_table.h"
 
 namespace quorix {
 
@@ -12,7 +13,7 @@ constexpr BasicKeyTokens Same(std::int32_t code, std::u16string_view token) {
     return {code, {token}, {token}};
 }
 
-// In the order of the codes, so that a search can halve the table.
+// In the order of the codes.
 constexpr BasicKeyTokens kTokens[] = {
     Same(KEY_7, u"7"),
     Same(KEY_8, u"8"),
@@ -90,23 +91,12 @@ constexpr BasicKeyTokens kTokens[] = {
      {u"Pop", u"1", u"(", kPoppedValue, u"/"}},
 };
 
-constexpr bool IsSortedByCode() {
-    for (std::size_t i = 1; i < std::size(kTokens); ++i) {
-        if (kTokens[i - 1].code >= kTokens[i].code) {
-            return false;
-        }
-    }
-    return true;
-}
-static_assert(IsSortedByCode());
+static_assert(IsSortedByCode(kTokens));
 
 }  // namespace
 
 const BasicKeyTokens* FindBasicKeyTokens(std::int32_t code) {
-    const auto* const row = std::lower_bound(
-        std::begin(kTokens), std::end(kTokens), code,
-        [](const BasicKeyTokens& candidate, std::int32_t key) { return candidate.code < key; });
-    return row != std::end(kTokens) && row->code == code ? row : nullptr;
+    return FindRowOfKey(kTokens, code);
 }
 
 }  // namespace quorix

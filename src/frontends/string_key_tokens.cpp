@@ -3,12 +3,13 @@
 #include <algorithm>
 
 #include "frontends/key_codes.h"
+#include "frontends/key_table.h"
 
 namespace quorix {
 
 namespace {
 
-// In the order of the codes, so that a search can halve the table.
+// In the order of the codes.
 constexpr StringKeyTokens kTokens[] = {
     {KEY_7, u"7", u""},
     {KEY_8, u"8", u""},
@@ -125,15 +126,7 @@ constexpr StringKeyTokens kTokens[] = {
     {KEY_RECIPROCAL, u"1", u"\u00F7"},
 };
 
-constexpr bool IsSortedByCode() {
-    for (std::size_t i = 1; i < std::size(kTokens); ++i) {
-        if (kTokens[i - 1].code >= kTokens[i].code) {
-            return false;
-        }
-    }
-    return true;
-}
-static_assert(IsSortedByCode());
+static_assert(IsSortedByCode(kTokens));
 static_assert(std::all_of(std::begin(kTokens), std::end(kTokens),
                           [](const StringKeyTokens& row) { return row.first.size() <= 9; }),
               "a token's length is one decimal digit");
@@ -141,10 +134,7 @@ static_assert(std::all_of(std::begin(kTokens), std::end(kTokens),
 }  // namespace
 
 const StringKeyTokens* FindStringKeyTokens(std::int32_t code) {
-    const auto* const row = std::lower_bound(
-        std::begin(kTokens), std::end(kTokens), code,
-        [](const StringKeyTokens& candidate, std::int32_t key) { return candidate.code < key; });
-    return row != std::end(kTokens) && row->code == code ? row : nullptr;
+    return FindRowOfKey(kTokens, code);
 }
 
 std::span<const StringKeyTokens> AllStringKeyTokens() {
