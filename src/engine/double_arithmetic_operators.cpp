@@ -1,22 +1,8 @@
 #include "engine/double_arithmetic_operators.h"
 
+#include "engine/double_operands.h"
+
 namespace quorix {
-namespace {
-
-bool IsReal(const DComplex& number) {
-    return number.im == 0.0;
-}
-
-// Takes the right operand off the stack; the left one is then on top. Null when there are fewer than two.
-const DComplex* PopRight(OperandStack<DComplex>& stack, std::int32_t base) {
-    if (!HasOperands(stack, base, 2)) return nullptr;
-    const DComplex* right = &stack.Top();
-    --stack.depth;
-    return right;
-}
-
-}  // namespace
-
 void DoubleAdd(OperandStack<DComplex>& stack, std::int32_t base) {
     if (const DComplex* right = PopRight(stack, base)) {
         DComplex& left = stack.Top();

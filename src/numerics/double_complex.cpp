@@ -6,7 +6,11 @@
 
 namespace quorix::dcomplex {
 
+// The square root of a square is the number itself, but for squares out of range.
 double magnitude(DComplex z) {
+    if (z.im == 0.0) {
+        return std::fabs(z.re);
+    }
     return std::sqrt(z.re * z.re + z.im * z.im);
 }
 

@@ -10,7 +10,7 @@
 
 namespace quorix::dcomplex {
 
-/// Square root of re² + im², without scaling.
+/// Square root of re² + im², without scaling: it overflows from 1e154 on unless the number is real.
 double magnitude(DComplex z);
 /// Angle in (-pi, pi].
 double argument(DComplex z);
