@@ -50,30 +50,24 @@ void DoubleDivide(OperandStack<DComplex>& stack, std::int32_t base) {
     }
 }
 
-bool RealAdd(double* top) {
-    top[-1] += top[0];
-    return true;
+double RealAdd(double left, double right) {
+    return left + right;
 }
 
-bool RealSubtract(double* top) {
-    top[-1] -= top[0];
-    return true;
+double RealSubtract(double left, double right) {
+    return left - right;
 }
 
-bool RealNegate(double* top) {
-    top[0] = 0.0 - top[0];
-    return true;
+double RealNegate(double operand) {
+    return 0.0 - operand;
 }
 
-bool RealMultiply(double* top) {
-    top[-1] *= top[0];
-    return true;
+double RealMultiply(double left, double right) {
+    return left * right;
 }
 
-bool RealDivide(double* top) {
-    if (top[0] == 0.0) return false;
-    top[-1] /= top[0];
-    return true;
+double RealDivide(double left, double right) {
+    return right == 0.0 ? kNoRealResult : left / right;
 }
 
 }  // namespace quorix

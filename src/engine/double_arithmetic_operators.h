@@ -15,10 +15,10 @@ void DoubleMultiply(OperandStack<DComplex>& stack, std::int32_t base);
 void DoubleDivide(OperandStack<DComplex>& stack, std::int32_t base);
 
 /// The same where no imaginary part is involved.
-bool RealAdd(double* top);
-bool RealSubtract(double* top);
-bool RealNegate(double* top);
-bool RealMultiply(double* top);
-bool RealDivide(double* top);
+double RealAdd(double left, double right);
+double RealSubtract(double left, double right);
+double RealNegate(double operand);
+double RealMultiply(double left, double right);
+double RealDivide(double left, double right);
 
 }  // namespace quorix

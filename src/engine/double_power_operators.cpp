@@ -34,8 +34,9 @@ constexpr auto kFactorials = [] {
 bool TrySquare(double x, double& square) {
     constexpr std::uint64_t kFraction = (std::uint64_t{1} << 52U) - 1;
     constexpr std::uint64_t kNearMiddle = std::uint64_t{1} << 48U;  // 1/16 of 2^52
-    constexpr double kSmallest = 0x1p-500;
-    constexpr double kLargest = 0x1p500;
+    // Far from underflow, and far below the powers that are refused.
+    constexpr double kSmallest = 0x1p-200;
+    constexpr double kLargest = 0x1p200;
     if (!(std::fabs(x) > kSmallest && std::fabs(x) < kLargest)) return false;
     const std::uint64_t mantissa = (std::bit_cast<std::uint64_t>(x) & kFraction) | (kFraction + 1);
     __extension__ using Wide = unsigned __int128;
@@ -133,42 +134,36 @@ void DoublePercent(OperandStack<DComplex>& stack, std::int32_t base) {
     }
 }
 
-bool RealPower(double* top) {
-    const double exponent = top[0];
-    if (exponent == 0.0) {
-        top[-1] = 1.0;
-        return true;
-    }
-    const double result = PowerOfReals(top[-1], exponent);
-    if (!(std::fabs(result) < kSurelyAllowed) && IsTooLarge({top[-1], 0.0}, exponent)) return false;
-    top[-1] = result;
-    return true;
+double RealPower(double base, double exponent) {
+    if (exponent == 0.0) return 1.0;
+    const double result = PowerOfReals(base, exponent);
+    if (!(std::fabs(result) < kSurelyAllowed) && IsTooLarge({base, 0.0}, exponent)) return kNoRealResult;
+    return result;
 }
 
-bool RealRoot(double* top) {
-    top[-1] = PowerOfReals(top[0], 1.0 / top[-1]);
-    return true;
+double RealRoot(double degree, double radicand) {
+    return PowerOfReals(radicand, 1.0 / degree);
 }
 
-bool RealInverseRoot(double* top) {
-    top[-1] = PowerOfReals(top[-1], 1.0 / top[0]);
-    return true;
+double RealInverseRoot(double radicand, double degree) {
+    return PowerOfReals(radicand, 1.0 / degree);
 }
 
-bool RealScale(double* top) {
-    top[-1] *= PowerOfReals(10.0, top[0]);
-    return true;
+double RealScale(double factor, double exponent) {
+    return factor * PowerOfReals(10.0, exponent);
 }
 
-bool RealFactorial(double* top) {
-    if (!IsFactorialArgument(top[0])) return false;
-    top[0] = kFactorials[static_cast<std::size_t>(top[0])];
-    return true;
+double RealFactorial(double operand) {
+    return IsFactorialArgument(operand) ? kFactorials[static_cast<std::size_t>(operand)] : kNoRealResult;
 }
 
-bool RealPercent(double* top) {
-    top[0] /= 100.0;
-    return true;
+double RealPercent(double operand) {
+    return operand / 100.0;
+}
+
+double RealSquare(double base) {
+    double square;
+    return TrySquare(base, square) ? square : RealPower(base, 2.0);
 }
 
 }  // namespace quorix

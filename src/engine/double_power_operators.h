@@ -21,11 +21,13 @@ void DoubleFactorial(OperandStack<DComplex>& stack, std::int32_t base);
 void DoublePercent(OperandStack<DComplex>& stack, std::int32_t base);
 
 /// The same where no imaginary part is involved.
-bool RealPower(double* top);
-bool RealRoot(double* top);
-bool RealInverseRoot(double* top);
-bool RealScale(double* top);
-bool RealFactorial(double* top);
-bool RealPercent(double* top);
+double RealPower(double base, double exponent);
+double RealRoot(double degree, double radicand);
+double RealInverseRoot(double radicand, double degree);
+double RealScale(double factor, double exponent);
+double RealFactorial(double operand);
+double RealPercent(double operand);
+/// RealPower(base, 2).
+double RealSquare(double base);
 
 }  // namespace quorix

@@ -1,9 +1,11 @@
 #include "engine/real_program.h"
 
 #include <array>
+#include <cmath>
 #include <numbers>
 
 #include "engine/double_arithmetic_operators.h"
+#include "engine/double_power_operators.h"
 #include "engine/number_grammar.h"
 
 namespace quorix {
@@ -50,23 +52,41 @@ bool RealProgram::Append(const ResolvedToken<DComplex>& token, const DoubleExpre
 
 bool RealProgram::AppendOperation(const OperatorRow<DComplex>& row) {
     const std::int32_t available = depth_ - bases_.Innermost();
-    const bool takesOne = row.operands == 1 || (available == 1 && row.realOfOne != nullptr);
-    if (available < (takesOne ? 1 : 2)) return false;
-    const RealOperator operation = takesOne && row.operands == 2 ? row.realOfOne : row.real;
-    if (operation == nullptr) return false;
-    const auto pops = static_cast<std::uint8_t>(takesOne ? 0 : 1);
-    const Code code = CodeOf(operation);
-    if (code != Code::call && instructions_.back().code == Code::push) {
-        // A value that was pushed just now becomes the right operand of the operation itself.
-        Instruction& last = instructions_.back();
-        last.code = static_cast<Code>(static_cast<int>(code) + static_cast<int>(Code::addValue) -
-                                      static_cast<int>(Code::add));
+    if (row.realOfTwo != nullptr && available >= 2) {
+        AppendBinary(row.realOfTwo);
+    } else if (row.realOfOne != nullptr && available >= 1) {
+        AppendFunction(row.realOfOne);
     } else {
-        instructions_.push_back({code, pops, 0, operation});
+        return false;
     }
-    depth_ -= pops;
     lastOperator_ = row.name;
     return true;
+}
+
+void RealProgram::AppendFunction(RealFunction function) {
+    Instruction instruction;
+    instruction.code = function == RealNegate ? Code::negate : Code::callOne;
+    instruction.function = function;
+    instructions_.push_back(instruction);
+}
+
+// A value that was pushed just now becomes the right operand of the operation itself.
+void RealProgram::AppendBinary(RealOperation operation) {
+    --depth_;
+    const Code code = CodeOf(operation);
+    if (instructions_.back().code != Code::push) {
+        Instruction instruction;
+        instruction.code = code;
+        instruction.operation = operation;
+        instructions_.push_back(instruction);
+        return;
+    }
+    Instruction& last = instructions_.back();
+    const bool isSquare = operation == RealPower && last.value != kBoundValue && values_[last.value] == 2.0;
+    last.code = isSquare ? Code::square
+                         : static_cast<Code>(static_cast<int>(code) + static_cast<int>(Code::addValue) -
+                                             static_cast<int>(Code::add));
+    last.operation = operation;
 }
 
 bool RealProgram::AppendConstant(double constant) {
@@ -76,22 +96,25 @@ bool RealProgram::AppendConstant(double constant) {
 
 bool RealProgram::AppendPush(std::uint32_t value) {
     if (depth_ >= kLaneDepth) return false;
-    instructions_.push_back({Code::push, 0, value, nullptr});
+    Instruction instruction;
+    instruction.value = value;
+    instructions_.push_back(instruction);
     ++depth_;
     return true;
 }
 
 // The four operations are done in place; everything else is called.
-RealProgram::Code RealProgram::CodeOf(RealOperator operation) {
+RealProgram::Code RealProgram::CodeOf(RealOperation operation) {
     if (operation == RealAdd) return Code::add;
     if (operation == RealSubtract) return Code::subtract;
     if (operation == RealMultiply) return Code::multiply;
     if (operation == RealDivide) return Code::divide;
-    return Code::call;
+    return Code::callTwo;
 }
 
 // The last operand is held in `last`, the others below it in the array. The first push stores a value that is
-// never read, so that the first operand lies at index 2 once there is a second.
+// never read, so that the first operand lies at index 2 once there is a second. A not-a-number of an operator
+// that is called ends the lane.
 bool RealProgram::Run(double boundValue, double& result) {
     std::array<double, kLaneDepth + 3> stack;
     double* below = stack.data();
@@ -111,6 +134,10 @@ bool RealProgram::Run(double boundValue, double& result) {
                 if (last == 0.0) return false;
                 last = *below-- / last;
                 break;
+            case Code::callTwo:
+                last = instruction.operation(*below--, last);
+                if (std::isnan(last)) return false;
+                break;
             case Code::addValue: last += values[instruction.value]; break;
             case Code::subtractValue: last -= values[instruction.value]; break;
             case Code::multiplyValue: last *= values[instruction.value]; break;
@@ -118,11 +145,18 @@ bool RealProgram::Run(double boundValue, double& result) {
                 if (values[instruction.value] == 0.0) return false;
                 last /= values[instruction.value];
                 break;
-            case Code::call:
-                below[1] = last;
-                if (!instruction.operation(below + 1)) return false;
-                below -= instruction.pops;
-                last = below[1];
+            case Code::callTwoValue:
+                last = instruction.operation(last, values[instruction.value]);
+                if (std::isnan(last)) return false;
+                break;
+            case Code::negate: last = 0.0 - last; break;
+            case Code::square:
+                last = RealSquare(last);
+                if (std::isnan(last)) return false;
+                break;
+            case Code::callOne:
+                last = instruction.function(last);
+                if (std::isnan(last)) return false;
                 break;
         }
     }

@@ -33,30 +33,37 @@ class RealProgram {
     [[nodiscard]] std::u16string_view LastOperator() const { return lastOperator_; }
 
   private:
-    // The second four take their right operand from the values instead of the stack.
+    // The second five take their right operand from the values instead of the stack.
     enum class Code : std::uint8_t {
         push,
         add,
         subtract,
         multiply,
         divide,
+        callTwo,
         addValue,
         subtractValue,
         multiplyValue,
         divideValue,
-        call,
+        callTwoValue,
+        negate,
+        square,
+        callOne,
     };
     struct Instruction {
-        Code code;
-        /// By how much a call lowers the depth: 0 or 1.
-        std::uint8_t pops;
-        std::uint32_t value;
-        RealOperator operation;
+        Code code = Code::push;
+        std::uint32_t value = 0;
+        union {
+            RealFunction function = nullptr;
+            RealOperation operation;
+        };
     };
 
-    static Code CodeOf(RealOperator operation);
+    static Code CodeOf(RealOperation operation);
     bool Append(const ResolvedToken<DComplex>& token, const DoubleExpression& expression);
     bool AppendOperation(const OperatorRow<DComplex>& row);
+    void AppendFunction(RealFunction function);
+    void AppendBinary(RealOperation operation);
     bool AppendConstant(double constant);
     bool AppendPush(std::uint32_t value);
 
