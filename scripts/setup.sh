@@ -4,8 +4,8 @@
 QUORIX_RUN_PACKAGES="g++ cmake ninja-build ccache pkg-config qt6-base-dev qt6-multimedia-dev libgl-dev libpng-dev
   zlib1g-dev libedit-dev fonts-roboto-unhinted fonts-dejavu-core"
 # What the tests and checks need besides.
-QUORIX_TEST_PACKAGES="libgtest-dev libgmock-dev libbenchmark-dev libmpfr-dev libgmp-dev libmpc-dev libeigen3-dev clang clang-format
-  libclang-rt-14-dev"
+QUORIX_TEST_PACKAGES="libgtest-dev libgmock-dev libbenchmark-dev libmpfr-dev libgmp-dev libmpc-dev libeigen3-dev
+  libmuparser-dev clang clang-format libclang-rt-14-dev"
 
 # install_packages NAME...: installs the packages that are not there yet; quiet when nothing is missing.
 install_packages() {

@@ -3,7 +3,6 @@
 #include <bit>
 #include <cmath>
 #include <cstdint>
-#include <limits>
 
 namespace quorix {
 namespace {
@@ -12,15 +11,10 @@ namespace {
 // 12 decimals reads back as itself.
 constexpr double kAlwaysExact = 8192.0;
 constexpr std::uint64_t kScale = 1'000'000'000'000;
-constexpr double kScaleDouble = 1e12;
 
 // Half a unit of the thirteenth decimal. It is no binary fraction, so that no value lies at it. Between whole
 // numbers so large that it is lost, no doubles lie any more.
 constexpr double kHalfOf13Decimals = 5e-14;
-
-// Added and taken off again, it rounds a double below 2^51 to a whole number, ties to even.
-constexpr double kRoundingShift = 6755399441055744.0;
-constexpr double kRoundingLimit = 2251799813685248.0;
 
 // value · 10^12 in whole numbers: the mantissa times 10^12 has at most 93 bits. Ties go to even.
 double ScaleExactly(double value) {
@@ -41,18 +35,10 @@ double ScaleExactly(double value) {
 
 }  // namespace
 
-double RoundTo12Decimals(double value) {
+double RoundTo12DecimalsExactly(double value) {
     const double magnitude = std::fabs(value);
     if (!(magnitude < kAlwaysExact)) return value;
-    // The product in doubles is off by less than its size over 2^53; unless it lies that near to a half, it
-    // rounds to the right whole number.
-    const double scaled = magnitude * kScaleDouble;
-    double whole = (scaled + kRoundingShift) - kRoundingShift;
-    const double uncertainty = scaled * std::numeric_limits<double>::epsilon();
-    if (!(scaled < kRoundingLimit) || !(std::fabs(scaled - whole) + uncertainty < 0.5)) {
-        whole = ScaleExactly(magnitude);
-    }
-    return std::copysign(whole / kScaleDouble, value);
+    return std::copysign(ScaleExactly(magnitude) / static_cast<double>(kScale), value);
 }
 
 double WholeAt13Decimals(double value) {

@@ -50,30 +50,4 @@ void DoubleDivide(OperandStack<DComplex>& stack, std::int32_t base) {
     }
 }
 
-bool RealAdd(double* top) {
-    top[-1] += top[0];
-    return true;
-}
-
-bool RealSubtract(double* top) {
-    top[-1] -= top[0];
-    return true;
-}
-
-bool RealNegate(double* top) {
-    top[0] = 0.0 - top[0];
-    return true;
-}
-
-bool RealMultiply(double* top) {
-    top[-1] *= top[0];
-    return true;
-}
-
-bool RealDivide(double* top) {
-    if (top[0] == 0.0) return false;
-    top[-1] /= top[0];
-    return true;
-}
-
 }  // namespace quorix

@@ -15,10 +15,20 @@ void DoubleMultiply(OperandStack<DComplex>& stack, std::int32_t base);
 void DoubleDivide(OperandStack<DComplex>& stack, std::int32_t base);
 
 /// The same where no imaginary part is involved.
-bool RealAdd(double* top);
-bool RealSubtract(double* top);
-bool RealNegate(double* top);
-bool RealMultiply(double* top);
-bool RealDivide(double* top);
+inline double RealAdd(double left, double right) {
+    return left + right;
+}
+inline double RealSubtract(double left, double right) {
+    return left - right;
+}
+inline double RealNegate(double operand) {
+    return 0.0 - operand;
+}
+inline double RealMultiply(double left, double right) {
+    return left * right;
+}
+inline double RealDivide(double left, double right) {
+    return right == 0.0 ? kNoRealResult : left / right;
+}
 
 }  // namespace quorix

@@ -5,6 +5,7 @@
 
 #include <cstdint>
 
+#include "engine/decimal_rounding.h"
 #include "engine/double_operands.h"
 #include "engine/operator_table.h"
 #include "numerics/qreal.h"
@@ -28,17 +29,26 @@ struct FunctionForm {
     bool isRounded = false;
 };
 
-/// Factor from the angle unit to radians, and back.
-double ToRadians();
-double FromRadians();
+/// Factor from the angle unit to radians.
+inline double ToRadians() {
+    constexpr double kRadiansPerDegree = 0.017453292519943295;
+    constexpr double kRadiansPerGrad = 0.015707963267948967;
+    const std::int32_t unit = calcContext().angleUnit;
+    return unit == UNIT_DEGREES ? kRadiansPerDegree : unit == UNIT_GRADS ? kRadiansPerGrad : 1.0;
+}
+
+/// Factor from radians to the angle unit.
+inline double FromRadians() {
+    constexpr double kDegreesPerRadian = 57.29577951308232;
+    constexpr double kGradsPerRadian = 63.66197723675814;
+    const std::int32_t unit = calcContext().angleUnit;
+    return unit == UNIT_DEGREES ? kDegreesPerRadian : unit == UNIT_GRADS ? kGradsPerRadian : 1.0;
+}
 
 /// Poles of tan and sec: odd multiples of a right angle, told by the number of right angles at 13 decimals.
 bool IsOddRightAngle(double radians);
 /// Poles of csc: multiples of two right angles, 0 included.
 bool IsStraightAngle(double radians);
-
-/// Rounds the real part.
-DComplex RoundedTo12Decimals(DComplex value);
 
 /// The function behind a row.
 template <DoubleFunction compute, FunctionForm form, PoleTest isPole>
@@ -64,7 +74,7 @@ void ApplyFunction(OperandStack<DComplex>& stack, std::int32_t base) {
         calcContext().calcError = form.error;
         return;
     }
-    if constexpr (form.isRounded) value = RoundedTo12Decimals(value);
+    if constexpr (form.isRounded) value.re = RoundTo12Decimals(value.re);
     if constexpr (form.angle == AngleUse::result) {
         if (IsReal(value)) {
             value.re *= FromRadians();
@@ -75,20 +85,18 @@ void ApplyFunction(OperandStack<DComplex>& stack, std::int32_t base) {
     top = value;
 }
 
-/// Its real form. A result that is not a number is left to the walk, whether it is an error or not.
+/// Its real form.
 template <DoubleFunction compute, FunctionForm form, PoleTest isPole>
-bool ApplyRealFunction(double* top) {
-    double x = *top;
-    if constexpr (form.angle == AngleUse::argument) x *= ToRadians();
+double ApplyRealFunction(double operand) {
+    if constexpr (form.angle == AngleUse::argument) operand *= ToRadians();
     if constexpr (isPole != nullptr) {
-        if (isPole(x)) return false;
+        if (isPole(operand)) return kNoRealResult;
     }
-    DComplex value = compute({x, 0.0});
-    if (!IsReal(value) || std::isnan(value.re)) return false;
-    if constexpr (form.isRounded) value = RoundedTo12Decimals(value);
-    if constexpr (form.angle == AngleUse::result) value.re *= FromRadians();
-    *top = value.re;
-    return true;
+    const DComplex value = compute({operand, 0.0});
+    if (!IsReal(value)) return kNoRealResult;
+    if constexpr (form.isRounded) return RoundTo12Decimals(value.re);
+    if constexpr (form.angle == AngleUse::result) return value.re * FromRadians();
+    return value.re;
 }
 
 template <DoubleFunction compute, FunctionForm form, PoleTest isPole = nullptr>

@@ -58,16 +58,14 @@ void ApplyInteger(OperandStack<DComplex>& stack, std::int32_t base) {
 }
 
 template <BinaryIntegerOperation operation>
-bool ApplyRealInteger(double* top) {
-    const IntegerOutcome outcome = operation(top[-1], top[0], calcContext().wordSize);
-    if (outcome.error != 0) return false;
-    top[-1] = outcome.value;
-    return true;
+double ApplyRealInteger(double left, double right) {
+    const IntegerOutcome outcome = operation(left, right, calcContext().wordSize);
+    return outcome.error != 0 ? kNoRealResult : outcome.value;
 }
 
 template <BinaryIntegerOperation operation>
 constexpr Row Integer(std::u16string_view name) {
-    return {name, 2, ApplyInteger<operation>, ApplyRealInteger<operation>};
+    return {name, 2, ApplyInteger<operation>, nullptr, ApplyRealInteger<operation>};
 }
 
 template <UnaryIntegerOperation operation>
@@ -82,9 +80,8 @@ void ApplyComplement(OperandStack<DComplex>& stack, std::int32_t base) {
 }
 
 template <UnaryIntegerOperation operation>
-bool ApplyRealComplement(double* top) {
-    *top = operation(*top, calcContext().wordSize).value;
-    return true;
+double ApplyRealComplement(double operand) {
+    return std::isnan(operand) ? kNoRealResult : operation(operand, calcContext().wordSize).value;
 }
 
 template <UnaryIntegerOperation operation>
@@ -96,10 +93,10 @@ constexpr Row IntegerComplement(std::u16string_view name) {
 // both: 'exp(x)' becomes '( x ) exp', and of '2 exp 3' the 2 is the result. This is intended.
 constexpr auto kRows = std::to_array<Row>({
     {u"%", 1, DoublePercent, RealPercent},
-    {u"+", 2, DoubleAdd, RealAdd},
-    {u"*", 2, DoubleMultiply, RealMultiply},
-    {u"-", 2, DoubleSubtract, RealSubtract, RealNegate},
-    {u"/", 2, DoubleDivide, RealDivide},
+    {u"+", 2, DoubleAdd, nullptr, RealAdd},
+    {u"*", 2, DoubleMultiply, nullptr, RealMultiply},
+    {u"-", 2, DoubleSubtract, RealNegate, RealSubtract},
+    {u"/", 2, DoubleDivide, nullptr, RealDivide},
     Direct<dcomplex::sin, ERROR_SIN>(u"sin"),
     Inverse<dcomplex::asin, ERROR_ARCSIN>(u"asin"),
     Inverse<dcomplex::acos, ERROR_ARCCOS>(u"acos"),
@@ -112,7 +109,7 @@ constexpr auto kRows = std::to_array<Row>({
     Logarithm<dcomplex::ln>(u"ln"),
     Logarithm<dcomplex::log10>(u"log"),
     {u"!", 1, DoubleFactorial, RealFactorial},
-    {u"^", 2, DoublePower, RealPower},
+    {u"^", 2, DoublePower, nullptr, RealPower},
     Plain<dcomplex::exp, 0>(u"exp"),
     Integer<IntegerAnd>(u"and"),
     Integer<IntegerOr>(u"or"),
@@ -135,7 +132,7 @@ constexpr auto kRows = std::to_array<Row>({
     Inverse<dcomplex::acsc, ERROR_ARCCSC>(u"acsc"),
     Plain<dcomplex::asech, ERROR_ARCSECH>(u"asech"),
     Plain<dcomplex::acsch, ERROR_ARCCSCH>(u"acsch"),
-    {u"root", 2, DoubleRoot, RealRoot},
+    {u"root", 2, DoubleRoot, nullptr, RealRoot},
     Integer<IntegerMod>(u"mod"),
     Integer<IntegerShiftLeft>(u"shl"),
     Integer<IntegerShiftRight>(u"shr"),
@@ -143,8 +140,8 @@ constexpr auto kRows = std::to_array<Row>({
     Integer<IntegerRotateRight>(u"rtr"),
     IntegerComplement<IntegerNot>(u"not"),
     IntegerComplement<IntegerNegate>(u"cpl"),
-    {u"iroot", 2, DoubleInverseRoot, RealInverseRoot},
-    {u"iexp", 2, DoubleScale, RealScale},
+    {u"iroot", 2, DoubleInverseRoot, nullptr, RealInverseRoot},
+    {u"iexp", 2, DoubleScale, nullptr, RealScale},
     Plain<MagnitudeOf, ERROR_ABSOLUTE>(u"abs"),
 });
 

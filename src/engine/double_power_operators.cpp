@@ -28,37 +28,8 @@ constexpr auto kFactorials = [] {
     return factorials;
 }();
 
-// x * x, or false where pow might give its neighbour. The C library's pow is off by at most 0.55 units of the
-// last place; so it is the nearest double unless the square lies within 0.05 units of the middle of two
-// doubles. The square's bits behind the last place tell.
-bool TrySquare(double x, double& square) {
-    constexpr std::uint64_t kFraction = (std::uint64_t{1} << 52U) - 1;
-    constexpr std::uint64_t kNearMiddle = std::uint64_t{1} << 48U;  // 1/16 of 2^52
-    constexpr double kSmallest = 0x1p-500;
-    constexpr double kLargest = 0x1p500;
-    if (!(std::fabs(x) > kSmallest && std::fabs(x) < kLargest)) return false;
-    const std::uint64_t mantissa = (std::bit_cast<std::uint64_t>(x) & kFraction) | (kFraction + 1);
-    __extension__ using Wide = unsigned __int128;
-    const Wide product = Wide{mantissa} * mantissa;
-    // 105 or 106 bits, of which 53 stay: the rest is brought to 53 bits.
-    const bool is106 = product >> 105U != 0;
-    const auto rest = static_cast<std::uint64_t>(product << (is106 ? 0U : 1U)) & (2 * kFraction + 1);
-    const std::uint64_t middle = kFraction + 1;
-    const std::uint64_t distance = rest < middle ? middle - rest : rest - middle;
-    if (distance < 2 * kNearMiddle) return false;
-    square = x * x;
-    return true;
-}
-
-// The C library's power, squares on a shorter way.
-double PowerOfReals(double base, double exponent) {
-    double square;
-    if (exponent == 2.0 && TrySquare(base, square)) return square;
-    return std::pow(base, exponent);
-}
-
 DComplex PowerByLogarithm(DComplex base, DComplex exponent) {
-    if (IsReal(base) && IsReal(exponent)) return {PowerOfReals(base.re, exponent.re), 0.0};
+    if (IsReal(base) && IsReal(exponent)) return {std::pow(base.re, exponent.re), 0.0};
     DComplex result = dcomplex::pow(base, exponent);
     if (std::fabs(result.im) < kImaginaryNoise) result.im = 0.0;
     return result;
@@ -67,6 +38,11 @@ DComplex PowerByLogarithm(DComplex base, DComplex exponent) {
 // The sign of the exponent counts: 0^2 is 0 and 0^-1 is out of range.
 bool IsTooLarge(DComplex base, double exponent) {
     return exponent * std::log(dcomplex::magnitude(base)) >= kLargestLogarithm;
+}
+
+// The library makes 1 of some powers whose operands are not numbers.
+double RealPowerOf(double base, double exponent) {
+    return std::isnan(base) || std::isnan(exponent) ? kNoRealResult : std::pow(base, exponent);
 }
 
 bool IsFactorialArgument(double x) {
@@ -133,42 +109,31 @@ void DoublePercent(OperandStack<DComplex>& stack, std::int32_t base) {
     }
 }
 
-bool RealPower(double* top) {
-    const double exponent = top[0];
-    if (exponent == 0.0) {
-        top[-1] = 1.0;
-        return true;
-    }
-    const double result = PowerOfReals(top[-1], exponent);
-    if (!(std::fabs(result) < kSurelyAllowed) && IsTooLarge({top[-1], 0.0}, exponent)) return false;
-    top[-1] = result;
-    return true;
+double RealPower(double base, double exponent) {
+    if (exponent == 0.0) return std::isnan(base) ? kNoRealResult : 1.0;
+    const double result = RealPowerOf(base, exponent);
+    if (!(std::fabs(result) < kSurelyAllowed) && IsTooLarge({base, 0.0}, exponent)) return kNoRealResult;
+    return result;
 }
 
-bool RealRoot(double* top) {
-    top[-1] = PowerOfReals(top[0], 1.0 / top[-1]);
-    return true;
+double RealRoot(double degree, double radicand) {
+    return RealPowerOf(radicand, 1.0 / degree);
 }
 
-bool RealInverseRoot(double* top) {
-    top[-1] = PowerOfReals(top[-1], 1.0 / top[0]);
-    return true;
+double RealInverseRoot(double radicand, double degree) {
+    return RealPowerOf(radicand, 1.0 / degree);
 }
 
-bool RealScale(double* top) {
-    top[-1] *= PowerOfReals(10.0, top[0]);
-    return true;
+double RealScale(double factor, double exponent) {
+    return factor * RealPowerOf(10.0, exponent);
 }
 
-bool RealFactorial(double* top) {
-    if (!IsFactorialArgument(top[0])) return false;
-    top[0] = kFactorials[static_cast<std::size_t>(top[0])];
-    return true;
+double RealFactorial(double operand) {
+    return IsFactorialArgument(operand) ? kFactorials[static_cast<std::size_t>(operand)] : kNoRealResult;
 }
 
-bool RealPercent(double* top) {
-    top[0] /= 100.0;
-    return true;
+double RealPercent(double operand) {
+    return operand / 100.0;
 }
 
 }  // namespace quorix

@@ -4,6 +4,7 @@
 // stack.
 
 #include <cstdint>
+#include <limits>
 #include <span>
 #include <string_view>
 
@@ -53,20 +54,21 @@ struct OperatorRow {
     OperatorFunction<Value> function;
 };
 
-/// The same on plain doubles, for operands whose imaginary parts are zero: `top` is the last operand, and the
-/// result is written to the place of the first. Result: false when the outcome is not a real number or an
-/// error; nothing else may then have changed.
-using RealOperator = bool (*)(double* top);
+/// The same on plain doubles, for operands whose imaginary parts are zero. A result that is not a number
+/// (kNoRealResult) tells that the outcome is none, no real number or an error; nothing else may then have
+/// changed. An operand that is not a number gives such a result, whatever the other one is.
+using RealFunction = double (*)(double operand);
+using RealOperation = double (*)(double left, double right);
+inline constexpr double kNoRealResult = std::numeric_limits<double>::quiet_NaN();
 
-/// A row of the double table also knows its real form, null when it has none, and the real form that stands
-/// for a single operand of a row that takes two (minus).
+/// A row of the double table also knows its real forms for one and for two operands, null where it has none.
 template <>
 struct OperatorRow<DComplex> {
     std::u16string_view name;
     int operands;
     OperatorFunction<DComplex> function;
-    RealOperator real = nullptr;
-    RealOperator realOfOne = nullptr;
+    RealFunction realOfOne = nullptr;
+    RealOperation realOfTwo = nullptr;
 };
 
 /// A table of operators searched by name; of rows with the same name the first one is found. The rows are not

@@ -1,9 +1,11 @@
 #include "engine/real_program.h"
 
+#include <algorithm>
 #include <array>
 #include <numbers>
 
 #include "engine/double_arithmetic_operators.h"
+#include "engine/double_power_operators.h"
 #include "engine/number_grammar.h"
 
 namespace quorix {
@@ -11,8 +13,100 @@ namespace {
 
 // Deeper expressions take the complex way.
 constexpr std::int32_t kLaneDepth = 64;
-// Place of the bound variable among the values.
-constexpr std::uint32_t kBoundValue = 0;
+
+using Instruction = RealProgram::Instruction;
+using Handler = RealProgram::Handler;
+
+inline double GoOn(const Instruction* at, double* below, double last, double x) {
+    ++at;
+    return at->handler(at, below, last, x);
+}
+
+double Finish(const Instruction* /*at*/, double* /*below*/, double last, double /*x*/) {
+    return last;
+}
+
+// The first push stores a value that is never read.
+double PushBound(const Instruction* at, double* below, double last, double x) {
+    *++below = last;
+    return GoOn(at, below, x, x);
+}
+double PushConstant(const Instruction* at, double* below, double last, double x) {
+    *++below = last;
+    return GoOn(at, below, at->constant, x);
+}
+
+// Functions of the last operand, of the bound variable and of a constant, the latter two pushed by the way.
+// Those that are short are done in place, the others called.
+template <RealFunction function>
+double Apply(const Instruction* at, double operand) {
+    if constexpr (function == nullptr) {
+        return at->function(operand);
+    } else {
+        return function(operand);
+    }
+}
+template <RealFunction function>
+double OfLast(const Instruction* at, double* below, double last, double x) {
+    return GoOn(at, below, Apply<function>(at, last), x);
+}
+template <RealFunction function>
+double OfBound(const Instruction* at, double* below, double last, double x) {
+    *++below = last;
+    return GoOn(at, below, Apply<function>(at, x), x);
+}
+template <RealFunction function>
+double OfConstant(const Instruction* at, double* below, double last, double x) {
+    *++below = last;
+    return GoOn(at, below, Apply<function>(at, at->constant), x);
+}
+
+struct FunctionHandlers {
+    RealFunction function;
+    Handler ofLast, ofBound, ofConstant;
+};
+template <RealFunction function>
+constexpr FunctionHandlers HandlersOfFunction() {
+    return {function, OfLast<function>, OfBound<function>, OfConstant<function>};
+}
+// The row without a function calls the instruction's.
+constexpr auto kFunctionHandlers = std::to_array<FunctionHandlers>(
+    {HandlersOfFunction<RealNegate>(), HandlersOfFunction<RealSquare>(), HandlersOfFunction<nullptr>()});
+
+// Operations whose right operand is the last one, the bound variable or a constant.
+template <RealOperation operation>
+double Apply(const Instruction* at, double left, double right) {
+    if constexpr (operation == nullptr) {
+        return at->operation(left, right);
+    } else {
+        return operation(left, right);
+    }
+}
+template <RealOperation operation>
+double ByLast(const Instruction* at, double* below, double last, double x) {
+    const double left = *below;
+    return GoOn(at, below - 1, Apply<operation>(at, left, last), x);
+}
+template <RealOperation operation>
+double ByBound(const Instruction* at, double* below, double last, double x) {
+    return GoOn(at, below, Apply<operation>(at, last, x), x);
+}
+template <RealOperation operation>
+double ByConstant(const Instruction* at, double* below, double last, double x) {
+    return GoOn(at, below, Apply<operation>(at, last, at->constant), x);
+}
+
+struct OperationHandlers {
+    RealOperation operation;
+    Handler byLast, byBound, byConstant;
+};
+template <RealOperation operation>
+constexpr OperationHandlers HandlersOfOperation() {
+    return {operation, ByLast<operation>, ByBound<operation>, ByConstant<operation>};
+}
+constexpr auto kOperationHandlers = std::to_array<OperationHandlers>(
+    {HandlersOfOperation<RealAdd>(), HandlersOfOperation<RealSubtract>(), HandlersOfOperation<RealMultiply>(),
+     HandlersOfOperation<RealDivide>(), HandlersOfOperation<nullptr>()});
 
 }  // namespace
 
@@ -22,16 +116,20 @@ DoubleNumber DoubleNumber::FromText(std::u16string_view text) {
 
 void RealProgram::Build(const DoubleExpression& expression) {
     instructions_.clear();
-    values_.assign(1, 0.0);
     lastOperator_ = {};
     depth_ = 0;
+    pushed_ = Pushed::nothing;
     bases_.Clear();
-    for (const ResolvedToken<DComplex>& token : expression.Tokens()) {
-        if (!Append(token, expression)) {
-            instructions_.clear();
-            return;
-        }
+    if (AppendAll(expression) && depth_ == 1) {
+        instructions_.push_back({Finish});
+    } else {
+        instructions_.clear();
     }
+}
+
+bool RealProgram::AppendAll(const DoubleExpression& expression) {
+    return std::ranges::all_of(expression.Tokens(),
+                               [&](const auto& token) { return Append(token, expression); });
 }
 
 bool RealProgram::Append(const ResolvedToken<DComplex>& token, const DoubleExpression& expression) {
@@ -40,94 +138,73 @@ bool RealProgram::Append(const ResolvedToken<DComplex>& token, const DoubleExpre
         case ResolvedKind::open:
             return bases_.Depth() < static_cast<std::size_t>(kLaneDepth) && bases_.Open(depth_);
         case ResolvedKind::close: bases_.Close(); return true;
-        case ResolvedKind::number: return AppendConstant(expression.NumberAt(token.index).value);
-        case ResolvedKind::bound: return AppendPush(kBoundValue);
-        case ResolvedKind::pi: return AppendConstant(std::numbers::pi);
-        case ResolvedKind::e: return AppendConstant(std::numbers::e);
+        case ResolvedKind::number:
+            return AppendPush(Pushed::constant, expression.NumberAt(token.index).value);
+        case ResolvedKind::bound: return AppendPush(Pushed::boundVariable, 0.0);
+        case ResolvedKind::pi: return AppendPush(Pushed::constant, std::numbers::pi);
+        case ResolvedKind::e: return AppendPush(Pushed::constant, std::numbers::e);
         default: return false;
     }
 }
 
 bool RealProgram::AppendOperation(const OperatorRow<DComplex>& row) {
     const std::int32_t available = depth_ - bases_.Innermost();
-    const bool takesOne = row.operands == 1 || (available == 1 && row.realOfOne != nullptr);
-    if (available < (takesOne ? 1 : 2)) return false;
-    const RealOperator operation = takesOne && row.operands == 2 ? row.realOfOne : row.real;
-    if (operation == nullptr) return false;
-    const auto pops = static_cast<std::uint8_t>(takesOne ? 0 : 1);
-    const Code code = CodeOf(operation);
-    if (code != Code::call && instructions_.back().code == Code::push) {
-        // A value that was pushed just now becomes the right operand of the operation itself.
-        Instruction& last = instructions_.back();
-        last.code = static_cast<Code>(static_cast<int>(code) + static_cast<int>(Code::addValue) -
-                                      static_cast<int>(Code::add));
+    if (row.realOfTwo != nullptr && available >= 2) {
+        AppendBinary(row.realOfTwo);
+    } else if (row.realOfOne != nullptr && available >= 1) {
+        AppendFunction(row.realOfOne);
     } else {
-        instructions_.push_back({code, pops, 0, operation});
+        return false;
     }
-    depth_ -= pops;
     lastOperator_ = row.name;
     return true;
 }
 
-bool RealProgram::AppendConstant(double constant) {
-    values_.push_back(constant);
-    return AppendPush(static_cast<std::uint32_t>(values_.size() - 1));
+void RealProgram::AppendFunction(RealFunction function) {
+    const FunctionHandlers& handlers = *std::ranges::find_if(kFunctionHandlers, [function](const auto& row) {
+        return row.function == function || row.function == nullptr;
+    });
+    if (pushed_ == Pushed::nothing) {
+        instructions_.push_back({handlers.ofLast});
+    } else {
+        instructions_.back().handler = pushed_ == Pushed::constant ? handlers.ofConstant : handlers.ofBound;
+    }
+    instructions_.back().function = function;
+    pushed_ = Pushed::nothing;
 }
 
-bool RealProgram::AppendPush(std::uint32_t value) {
+void RealProgram::AppendBinary(RealOperation operation) {
+    --depth_;
+    if (operation == RealPower && pushed_ == Pushed::constant && instructions_.back().constant == 2.0) {
+        instructions_.pop_back();
+        pushed_ = Pushed::nothing;
+        AppendFunction(RealSquare);
+        return;
+    }
+    const OperationHandlers& handlers = *std::ranges::find_if(
+        kOperationHandlers,
+        [operation](const auto& row) { return row.operation == operation || row.operation == nullptr; });
+    if (pushed_ == Pushed::nothing) {
+        instructions_.push_back({handlers.byLast});
+    } else {
+        instructions_.back().handler = pushed_ == Pushed::constant ? handlers.byConstant : handlers.byBound;
+    }
+    instructions_.back().operation = operation;
+    pushed_ = Pushed::nothing;
+}
+
+bool RealProgram::AppendPush(Pushed pushed, double constant) {
     if (depth_ >= kLaneDepth) return false;
-    instructions_.push_back({Code::push, 0, value, nullptr});
+    instructions_.push_back({pushed == Pushed::constant ? PushConstant : PushBound, constant});
+    pushed_ = pushed;
     ++depth_;
     return true;
 }
 
-// The four operations are done in place; everything else is called.
-RealProgram::Code RealProgram::CodeOf(RealOperator operation) {
-    if (operation == RealAdd) return Code::add;
-    if (operation == RealSubtract) return Code::subtract;
-    if (operation == RealMultiply) return Code::multiply;
-    if (operation == RealDivide) return Code::divide;
-    return Code::call;
-}
-
-// The last operand is held in `last`, the others below it in the array. The first push stores a value that is
-// never read, so that the first operand lies at index 2 once there is a second.
-bool RealProgram::Run(double boundValue, double& result) {
-    std::array<double, kLaneDepth + 3> stack;
-    double* below = stack.data();
-    double last = 0.0;
-    values_[kBoundValue] = boundValue;
-    const double* const values = values_.data();
-    for (const Instruction& instruction : instructions_) {
-        switch (instruction.code) {
-            case Code::push:
-                *++below = last;
-                last = values[instruction.value];
-                break;
-            case Code::add: last = *below-- + last; break;
-            case Code::subtract: last = *below-- - last; break;
-            case Code::multiply: last = *below-- * last; break;
-            case Code::divide:
-                if (last == 0.0) return false;
-                last = *below-- / last;
-                break;
-            case Code::addValue: last += values[instruction.value]; break;
-            case Code::subtractValue: last -= values[instruction.value]; break;
-            case Code::multiplyValue: last *= values[instruction.value]; break;
-            case Code::divideValue:
-                if (values[instruction.value] == 0.0) return false;
-                last /= values[instruction.value];
-                break;
-            case Code::call:
-                below[1] = last;
-                if (!instruction.operation(below + 1)) return false;
-                below -= instruction.pops;
-                last = below[1];
-                break;
-        }
-    }
-    result = depth_ == 1 ? last : stack[2];
-    return true;
+double RealProgram::Run(double x) const {
+    std::array<double, kLaneDepth + 2> stack;
+    const Instruction* first = instructions_.data();
+    return first->handler(first, stack.data(), 0.0, x);
 }
 
 }  // namespace quorix

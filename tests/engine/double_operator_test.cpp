@@ -10,6 +10,7 @@
 
 #include "engine/decimal_rounding.h"
 #include "engine/double_operator_table.h"
+#include "engine/double_power_operators.h"
 #include "engine/eval_double.h"
 #include "support/engine_fixture.h"
 
@@ -386,24 +387,21 @@ TEST_F(DoubleOperatorTest, RealFormsGiveTheSameBits) {
     int taken = 0;
     for (const std::int32_t unit : {UNIT_DEGREES, UNIT_RADIANS, UNIT_GRADS}) {
         for (const OperatorRow<DComplex>& row : DoubleOperatorTable().Rows()) {
-            ASSERT_NE(row.real, nullptr);
+            ASSERT_TRUE(row.operands == 1 ? row.realOfOne != nullptr : row.realOfTwo != nullptr);
             for (const double x : samples) {
                 for (const double y : row.operands == 2 ? samples : std::vector<double>{0.0}) {
                     calcContext().angleUnit = unit;
-                    double values[] = {x, row.operands == 2 ? y : 77.0};
-                    double* top = row.operands == 2 ? &values[1] : &values[0];
-                    if (!row.real(top)) continue;
+                    const double value = row.operands == 2 ? row.realOfTwo(x, y) : row.realOfOne(x);
+                    if (std::isnan(value)) continue;
                     EXPECT_EQ(calcContext().angleUnit, unit);
                     ++taken;
                     const Outcome outcome =
                         row.operands == 2 ? Apply(row.name, {x, y}) : Apply(row.name, {x});
                     ASSERT_EQ(outcome.error, 0) << Narrow(row.name) << " " << x << " " << y;
-                    const bool same = std::isnan(values[0])
-                                          ? std::isnan(outcome.value.real())
-                                          : std::bit_cast<std::uint64_t>(values[0]) ==
-                                                std::bit_cast<std::uint64_t>(outcome.value.real());
-                    ASSERT_TRUE(same) << Narrow(row.name) << " " << x << " " << y << ": " << values[0]
-                                      << " and " << outcome.value;
+                    const bool same = std::bit_cast<std::uint64_t>(value) ==
+                                      std::bit_cast<std::uint64_t>(outcome.value.real());
+                    ASSERT_TRUE(same) << Narrow(row.name) << " " << x << " " << y << ": " << value << " and "
+                                      << outcome.value;
                     ASSERT_EQ(outcome.value.imag(), 0.0);
                 }
             }
@@ -471,9 +469,8 @@ TEST_F(DoubleOperatorTest, SquaresAreThoseOfTheLibrary) {
     for (int n = 0; n < 3000000; ++n) {
         const double x = n % 4 == 0 ? std::ldexp(mantissa(random), static_cast<int>(random() % 400) - 200)
                                     : mantissa(random);
-        double values[] = {x, 2.0};
-        ASSERT_TRUE(power->real(&values[1]));
-        ASSERT_EQ(values[0], std::pow(x, two)) << x;
+        ASSERT_EQ(power->realOfTwo(x, 2.0), std::pow(x, two)) << x;
+        ASSERT_EQ(RealSquare(x), std::pow(x, two)) << x;
     }
 }
 
@@ -503,6 +500,69 @@ TEST_F(DoubleOperatorTest, ExpressionsOfGraphs) {
     ClearCalcError();
     EXPECT_FALSE(EvalToDouble(u"x!", u"x", 171, 10));
     EXPECT_EQ(calcContext().calcError, -7);
+}
+
+// Random expressions over the operators that text can name.
+class Shapes {
+  public:
+    explicit Shapes(unsigned seed) : random_(seed) {}
+
+    std::u16string Expression(int depth) {
+        if (depth == 0 || Below(5) == 0)
+            return Below(2) == 0 ? u"x" : Pick({u"2", u"0.5", u"3", u"pi", u"0"});
+        switch (Below(4)) {
+            case 0:
+                return Pick({u"sin", u"cos", u"tan", u"ln", u"sqrt", u"exp", u"asin", u"csc", u"abs"}) +
+                       u"(" + Expression(depth - 1) + u")";
+            case 1: return u"(-" + Expression(depth - 1) + u")" + Pick({u"", u"%", u"!"});
+            default:
+                return u"(" + Expression(depth - 1) +
+                       Pick({u"+", u"-", u"*", u"/", u"^", u"^2+", u" root ", u" mod ", u" and "}) +
+                       Expression(depth - 1) + u")";
+        }
+    }
+
+  private:
+    unsigned Below(unsigned n) { return static_cast<unsigned>(random_()) % n; }
+    std::u16string Pick(std::initializer_list<std::u16string_view> words) {
+        return std::u16string(words.begin()[Below(static_cast<unsigned>(words.size()))]);
+    }
+
+    std::mt19937 random_;
+};
+
+// An "i" in the text keeps the evaluator out of the lane of plain doubles.
+TEST_F(DoubleOperatorTest, TheLaneGivesWhatTheWalkGives) {
+    Shapes shapes(3);
+    int values = 0;
+    for (int n = 0; n < 20000; ++n) {
+        const std::u16string text = shapes.Expression(4);
+        SetUp();
+        DoubleSampler sampler(text, u"x", 10);
+        for (const double x : {-1.5, 0.0, 2.0}) {
+            SetUp();
+            const auto sampled = sampler.At(x);
+            const CalcContext inLane = calcContext();
+            SetUp();
+            const auto walked = EvalToDouble(u"(" + text + u")+0*i", u"x", x, 10);
+            ASSERT_EQ(inLane.calcError, calcContext().calcError) << Narrow(text) << " at " << x;
+            ASSERT_EQ(inLane.angleUnit, calcContext().angleUnit) << Narrow(text) << " at " << x;
+            ASSERT_EQ(sampled.has_value(), walked.has_value());
+            if (!walked || std::isnan(walked->re)) continue;
+            ASSERT_EQ(sampled->re, walked->re) << Narrow(text) << " at " << x;
+            ASSERT_EQ(sampled->im, walked->im) << Narrow(text) << " at " << x;
+            ++values;
+        }
+    }
+    EXPECT_GT(values, 10000);
+}
+
+TEST_F(DoubleOperatorTest, ASamplerKeepsItsFailure) {
+    DoubleSampler sampler(u"x+", u"x", 10);
+    EXPECT_EQ(calcContext().calcError, -1);
+    ClearCalcError();
+    EXPECT_FALSE(sampler.At(1.0));
+    EXPECT_EQ(calcContext().calcError, -1);
 }
 
 }  // namespace
