@@ -45,6 +45,10 @@ inline double FromRadians() {
     return unit == UNIT_DEGREES ? kDegreesPerRadian : unit == UNIT_GRADS ? kGradsPerRadian : 1.0;
 }
 
+/// For functions without poles on the real line.
+constexpr bool HasNoPole(double /*radians*/) {
+    return false;
+}
 /// Poles of tan and sec: odd multiples of a right angle, told by the number of right angles at 13 decimals.
 bool IsOddRightAngle(double radians);
 /// Poles of csc: multiples of two right angles, 0 included.
