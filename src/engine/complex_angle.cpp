@@ -1,5 +1,7 @@
 #include "engine/complex_angle.h"
 
+#include <algorithm>
+
 #include "engine/calc_context.h"
 #include "engine/complex_operands.h"
 #include "numerics/constants.h"
@@ -19,7 +21,41 @@ QReal HalfTurn() {
     return halfTurn;
 }
 
+/// Binary exponent word beyond which the factor pi costs an angle digits that matter.
+constexpr std::uint16_t kFarAngle = QReal::kExponentOfOne + 64;
+
+/// Takes whole turns off a far angle, without rounding, so that it lies a turn or more away from 0 as before.
+void DropTurns(const QReal& halfTurn, QReal& angle) {
+    QReal turn;
+    qldexp(halfTurn, 1, turn);
+    const bool isNegative = angle.IsNegative();
+    qabs(angle);
+    while (angle.words[1] > kFarAngle) {
+        // Cut to 256 bits their product with a turn is exact, and the difference too.
+        QReal turns;
+        qdiv(turn, angle, turns);
+        std::fill(turns.words.begin() + 19, turns.words.end(), std::uint16_t{0});
+        qfloor(turns, turns);
+        qmul(turn, turns, turns);
+        qsub(turns, angle, angle);
+    }
+    qadd(turn, angle, angle);
+    if (isNegative) {
+        qneg(angle);
+    }
+}
+
 }  // namespace
+
+QComplex CircularAngleIn(const QComplex& angle) {
+    const QReal halfTurn = HalfTurn();
+    if (halfTurn.IsZero() || angle.re.words[1] <= kFarAngle || !IsBelowTiny(angle.im)) {
+        return AngleIn(angle);
+    }
+    QComplex near = angle;
+    DropTurns(halfTurn, near.re);
+    return AngleIn(near);
+}
 
 QComplex AngleIn(const QComplex& angle) {
     if (!IsBelowTiny(angle.im)) {

@@ -25,22 +25,24 @@ QComplex Reciprocal(const QComplex& z) {
     return result;
 }
 
-template <Function function>
+using AngleRule = QComplex (*)(const QComplex& angle);
+
+template <Function function, AngleRule angleIn = CircularAngleIn>
 void ApplyDirect(ComplexStack& stack, std::int32_t base) {
     if (!HasOperands(stack, base, 1)) {
         return;
     }
-    const QComplex argument = AngleIn(stack.Top());
+    const QComplex argument = angleIn(stack.Top());
     function(argument, stack.Top());
     FoldNumericError();
 }
 
-template <Function function>
+template <Function function, AngleRule angleIn = CircularAngleIn>
 void ApplyReciprocal(ComplexStack& stack, std::int32_t base) {
     if (!HasOperands(stack, base, 1)) {
         return;
     }
-    const QComplex argument = AngleIn(stack.Top());
+    const QComplex argument = angleIn(stack.Top());
     QComplex value;
     function(argument, value);
     stack.Top() = Reciprocal(value);
@@ -147,16 +149,16 @@ void ComplexAcsc(ComplexStack& stack, std::int32_t base) {
     ApplyInverseOfReciprocal<qcasin>(stack, base);
 }
 void ComplexSinh(ComplexStack& stack, std::int32_t base) {
-    ApplyDirect<qcsinh>(stack, base);
+    ApplyDirect<qcsinh, AngleIn>(stack, base);
 }
 void ComplexCosh(ComplexStack& stack, std::int32_t base) {
-    ApplyDirect<qccosh>(stack, base);
+    ApplyDirect<qccosh, AngleIn>(stack, base);
 }
 void ComplexTanh(ComplexStack& stack, std::int32_t base) {
-    ApplyDirect<qctanh>(stack, base);
+    ApplyDirect<qctanh, AngleIn>(stack, base);
 }
 void ComplexCsch(ComplexStack& stack, std::int32_t base) {
-    ApplyReciprocal<qcsinh>(stack, base);
+    ApplyReciprocal<qcsinh, AngleIn>(stack, base);
 }
 void ComplexAsinh(ComplexStack& stack, std::int32_t base) {
     ApplyInverse<qcasinh>(stack, base);
@@ -178,7 +180,7 @@ void ComplexTan(ComplexStack& stack, std::int32_t base) {
     if (!HasOperands(stack, base, 1)) {
         return;
     }
-    const QComplex argument = AngleIn(stack.Top());
+    const QComplex argument = CircularAngleIn(stack.Top());
     if (IsAtPole(argument)) {
         calcContext().calcError = ERROR_INVALID_PARAMETER;
         return;

@@ -45,10 +45,19 @@ inline double FromRadians() {
     return unit == UNIT_DEGREES ? kDegreesPerRadian : unit == UNIT_GRADS ? kGradsPerRadian : 1.0;
 }
 
+/// For functions without poles on the real line.
+constexpr bool HasNoPole(double /*radians*/) {
+    return false;
+}
 /// Poles of tan and sec: odd multiples of a right angle, told by the number of right angles at 13 decimals.
 bool IsOddRightAngle(double radians);
 /// Poles of csc: multiples of two right angles, 0 included.
 bool IsStraightAngle(double radians);
+
+/// The test of functions without poles.
+constexpr bool HasNoPole(double /*radians*/) {
+    return false;
+}
 
 /// The function behind a row.
 template <DoubleFunction compute, FunctionForm form, PoleTest isPole>
@@ -63,11 +72,9 @@ void ApplyFunction(OperandStack<DComplex>& stack, std::int32_t base) {
             calcContext().angleUnit = UNIT_RADIANS;  // For good; this is intended.
         }
     }
-    if constexpr (isPole != nullptr) {
-        if (IsReal(value) && isPole(value.re)) {
-            calcContext().calcError = form.error;
-            return;
-        }
+    if (IsReal(value) && isPole(value.re)) {
+        calcContext().calcError = form.error;
+        return;
     }
     value = compute(value);
     if (form.error != 0 && IsNotANumber(value)) {
@@ -89,9 +96,7 @@ void ApplyFunction(OperandStack<DComplex>& stack, std::int32_t base) {
 template <DoubleFunction compute, FunctionForm form, PoleTest isPole>
 double ApplyRealFunction(double operand) {
     if constexpr (form.angle == AngleUse::argument) operand *= ToRadians();
-    if constexpr (isPole != nullptr) {
-        if (isPole(operand)) return kNoRealResult;
-    }
+    if (isPole(operand)) return kNoRealResult;
     const DComplex value = compute({operand, 0.0});
     if (!IsReal(value)) return kNoRealResult;
     if constexpr (form.isRounded) return RoundTo12Decimals(value.re);
@@ -99,7 +104,7 @@ double ApplyRealFunction(double operand) {
     return value.re;
 }
 
-template <DoubleFunction compute, FunctionForm form, PoleTest isPole = nullptr>
+template <DoubleFunction compute, FunctionForm form, PoleTest isPole = HasNoPole>
 constexpr OperatorRow<DComplex> FunctionRow(std::u16string_view name) {
     return {name, 1, ApplyFunction<compute, form, isPole>, ApplyRealFunction<compute, form, isPole>};
 }

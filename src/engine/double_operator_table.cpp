@@ -14,7 +14,7 @@ namespace {
 using Row = OperatorRow<DComplex>;
 
 // Circular functions: of the direct ones all but ctan are rounded.
-template <DoubleFunction compute, std::int32_t error, PoleTest isPole = nullptr, bool isRounded = true>
+template <DoubleFunction compute, std::int32_t error, PoleTest isPole = HasNoPole, bool isRounded = true>
 constexpr Row Direct(std::u16string_view name) {
     return FunctionRow<compute, FunctionForm{error, AngleUse::argument, isRounded}, isPole>(name);
 }
@@ -103,7 +103,7 @@ constexpr auto kRows = std::to_array<Row>({
     Direct<dcomplex::cos, ERROR_COS>(u"cos"),
     Direct<dcomplex::tan, ERROR_TAN, IsOddRightAngle>(u"tan"),
     Inverse<dcomplex::atan, ERROR_ARCTAN>(u"atan"),
-    Direct<dcomplex::cot, ERROR_COTAN, nullptr, false>(u"ctan"),
+    Direct<dcomplex::cot, ERROR_COTAN, HasNoPole, false>(u"ctan"),
     Inverse<dcomplex::acot, ERROR_ARCCOT>(u"acot"),
     Plain<dcomplex::sqrt, ERROR_SQUARE_ROOT>(u"sqrt"),
     Logarithm<dcomplex::ln>(u"ln"),

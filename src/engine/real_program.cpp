@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <numbers>
+#include <type_traits>
 
 #include "engine/double_arithmetic_operators.h"
 #include "engine/double_power_operators.h"
@@ -38,24 +39,24 @@ double PushConstant(const Instruction* at, double* below, double last, double x)
 
 // Functions of the last operand, of the bound variable and of a constant, the latter two pushed by the way.
 // Those that are short are done in place, the others called.
-template <RealFunction function>
+template <auto function>
 double Apply(const Instruction* at, double operand) {
-    if constexpr (function == nullptr) {
+    if constexpr (std::is_null_pointer_v<decltype(function)>) {
         return at->function(operand);
     } else {
         return function(operand);
     }
 }
-template <RealFunction function>
+template <auto function>
 double OfLast(const Instruction* at, double* below, double last, double x) {
     return GoOn(at, below, Apply<function>(at, last), x);
 }
-template <RealFunction function>
+template <auto function>
 double OfBound(const Instruction* at, double* below, double last, double x) {
     *++below = last;
     return GoOn(at, below, Apply<function>(at, x), x);
 }
-template <RealFunction function>
+template <auto function>
 double OfConstant(const Instruction* at, double* below, double last, double x) {
     *++below = last;
     return GoOn(at, below, Apply<function>(at, at->constant), x);
@@ -65,7 +66,7 @@ struct FunctionHandlers {
     RealFunction function;
     Handler ofLast, ofBound, ofConstant;
 };
-template <RealFunction function>
+template <auto function>
 constexpr FunctionHandlers HandlersOfFunction() {
     return {function, OfLast<function>, OfBound<function>, OfConstant<function>};
 }
@@ -74,24 +75,24 @@ constexpr auto kFunctionHandlers = std::to_array<FunctionHandlers>(
     {HandlersOfFunction<RealNegate>(), HandlersOfFunction<RealSquare>(), HandlersOfFunction<nullptr>()});
 
 // Operations whose right operand is the last one, the bound variable or a constant.
-template <RealOperation operation>
+template <auto operation>
 double Apply(const Instruction* at, double left, double right) {
-    if constexpr (operation == nullptr) {
+    if constexpr (std::is_null_pointer_v<decltype(operation)>) {
         return at->operation(left, right);
     } else {
         return operation(left, right);
     }
 }
-template <RealOperation operation>
+template <auto operation>
 double ByLast(const Instruction* at, double* below, double last, double x) {
     const double left = *below;
     return GoOn(at, below - 1, Apply<operation>(at, left, last), x);
 }
-template <RealOperation operation>
+template <auto operation>
 double ByBound(const Instruction* at, double* below, double last, double x) {
     return GoOn(at, below, Apply<operation>(at, last, x), x);
 }
-template <RealOperation operation>
+template <auto operation>
 double ByConstant(const Instruction* at, double* below, double last, double x) {
     return GoOn(at, below, Apply<operation>(at, last, at->constant), x);
 }
@@ -100,7 +101,7 @@ struct OperationHandlers {
     RealOperation operation;
     Handler byLast, byBound, byConstant;
 };
-template <RealOperation operation>
+template <auto operation>
 constexpr OperationHandlers HandlersOfOperation() {
     return {operation, ByLast<operation>, ByBound<operation>, ByConstant<operation>};
 }

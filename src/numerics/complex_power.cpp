@@ -128,7 +128,10 @@ void qcpow(const QComplex& a, const QComplex& b, QComplex& result) {
     const WideComplex logarithm = Log(Widen(a)), exponent = Widen(b);
     const WideComplex product{exponent.re * logarithm.re - exponent.im * logarithm.im,
                               exponent.re * logarithm.im + exponent.im * logarithm.re};
-    Narrow(Exp(product), "qexp", result);
+    // i^2 is -1: an angle within the roundings of a and b of a quarter turn is that quarter turn.
+    const Wide magnitude = Exp(product.re);
+    const auto [sine, cosine] = SineAndCosineOfStored(product.im);
+    Narrow(WideComplex{magnitude * cosine, magnitude * sine}, "qexp", result);
 }
 
 }  // namespace quorix
