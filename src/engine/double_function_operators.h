@@ -54,11 +54,6 @@ bool IsOddRightAngle(double radians);
 /// Poles of csc: multiples of two right angles, 0 included.
 bool IsStraightAngle(double radians);
 
-/// The test of functions without poles.
-constexpr bool HasNoPole(double /*radians*/) {
-    return false;
-}
-
 /// The function behind a row.
 template <DoubleFunction compute, FunctionForm form, PoleTest isPole>
 void ApplyFunction(OperandStack<DComplex>& stack, std::int32_t base) {
