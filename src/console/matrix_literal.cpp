@@ -66,12 +66,16 @@ class Reader {
     bool TakeElement(std::u16string_view element, std::vector<double>& elements) {
         const std::u16string number = NumberText(element, decimalSign_);
         if (!IsNumber(number)) {
-            error_ = "\"" + ToUtf8(element) + "\" is no number";
+            SetError(element, " is no number");
             return false;
         }
         elements.push_back(NumberToDouble(number));
-        if (!std::isfinite(elements.back())) error_ = "\"" + ToUtf8(element) + "\" is too large";
+        if (!std::isfinite(elements.back())) SetError(element, " is too large");
         return error_.empty();
+    }
+
+    void SetError(std::u16string_view element, std::string_view what) {
+        error_.assign("\"").append(ToUtf8(element)).append("\"").append(what);
     }
 
     std::u16string_view rest_;
