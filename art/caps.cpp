@@ -32,6 +32,13 @@ constexpr ShadowLayer kShadows[] = {{1.5, 0.28}, {0.75, 0.42}};
 
 constexpr double kDownTop = 0.18;  // How much darker a pressed face is, top and bottom.
 constexpr double kDownBottom = 0.06;
+constexpr double kDownLit = 0.64;  // How near a pressed cap's lower edge comes to its face.
+
+QColor Between(const QColor& from, const QColor& to, double part) {
+    const auto channel = [&](float a, float b) { return a + (b - a) * static_cast<float>(part); };
+    return QColor::fromRgbF(channel(from.redF(), to.redF()), channel(from.greenF(), to.greenF()),
+                            channel(from.blueF(), to.blueF()));
+}
 
 }  // namespace
 
@@ -40,9 +47,11 @@ void PaintCap(QPainter& painter, const QRectF& cell, double radius, const CapCol
     QRectF slab = cell.adjusted(1, 1, -1, -2);
     if (down) {
         slab.translate(0, 1);
-        FillSlab(painter, slab, radius, colors.edgeBottom, colors.edgeTop);
+        // The face turns away from the light: its lower colour throughout, and the dark edge on top.
+        const QColor foot = Darker(colors.faceBottom, kDownBottom);
+        FillSlab(painter, slab, radius, colors.edgeBottom, Between(colors.edgeBottom, foot, kDownLit));
         FillSlab(painter, slab.adjusted(kEdge, kEdge, -kEdge, -kEdge), radius - kEdge,
-                 Darker(colors.faceTop, kDownTop), Darker(colors.faceBottom, kDownBottom));
+                 Darker(colors.faceBottom, kDownTop), foot);
         return;
     }
     for (const ShadowLayer& layer : kShadows) {

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Whole process of quorix-calc beside its peers: lines a second against gp at 100 digits, start-up against calc, and
-# peak memory. Own and peer run in turn; the medians are compared.
+# Whole process of quorix-calc beside its peers: lines a second and a long sum against gp at 100 digits, start-up against
+# calc, and peak memory. Own and peer run in turn; the medians are compared.
 # Usage: bench/console_throughput.sh PATH_OF_QUORIX_CALC [ROUNDS]
 set -euo pipefail
 
@@ -30,6 +30,11 @@ function expression(depth,    kind, sign) {
 BEGIN { srand(7); for (i = 0; i < count; i++) print expression(3) }' > "$work/lines"
 { echo 'default(realprecision,100)'; cat "$work/lines"; } > "$work/gp_lines"
 
+# A sum of one line here, and its terms line by line there.
+terms=10000
+sum="fnSum(x^2,x,1,$terms)"
+{ echo 'default(realprecision,100)'; for ((i = 1; i <= terms; i++)); do echo "$i^2"; done; } > "$work/gp_terms"
+
 # microseconds COMMAND...: time of one run, output thrown away.
 microseconds() {
     local begin=${EPOCHREALTIME/[.,]/}
@@ -39,6 +44,8 @@ microseconds() {
 median() { sort -n | awk '{ v[NR] = $1 } END { print v[int((NR + 1) / 2)] }'; }
 run_own() { "$calculator" < "$work/lines"; }
 run_gp() { gp -q < "$work/gp_lines"; }
+sum_own() { "$calculator" "$sum"; }
+sum_gp() { gp -q < "$work/gp_terms"; }
 start_own() { for ((i = 0; i < starts; i++)); do "$calculator" 1+1; done; }
 start_calc() { for ((i = 0; i < starts; i++)); do calc 1+1; done; }
 
@@ -58,6 +65,9 @@ if command -v gp > /dev/null; then
     compare run_own run_gp
     awk -v own="$own" -v peer="$peer" -v lines="$line_count" 'BEGIN {
         printf "lines a second: %.2f times those of gp (goal 1.5); %.2f us a line\n", peer / own, own / lines }'
+    compare sum_own sum_gp
+    awk -v own="$own" -v peer="$peer" -v sum="$sum" 'BEGIN {
+        printf "%s: %.2f times the time of gp for its terms (goal 2.0)\n", sum, own / peer }'
 fi
 if command -v calc > /dev/null; then
     compare start_own start_calc

@@ -6,6 +6,8 @@
 #include <iostream>
 
 #include "engine/busy_signal.h"
+#include "engine/eval_matrix.h"
+#include "matrix/matrix_operators.h"
 #include "platform/program_folder.h"
 #include "platform/qt/fonts.h"
 #include "platform/qt/qt_wait_cursor.h"
@@ -28,6 +30,7 @@ int EndStart(const std::filesystem::path& skin) {
 }  // namespace
 
 int main(int argc, char** argv) {
+    quorix::SetMatrixOperators(quorix::MatrixOperatorTable());
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Quorix"));
     const std::filesystem::path installed = quorix::ExecutableFolder();

@@ -155,6 +155,14 @@ Computes EXPRESSION with about 100 digits and prints the result. Without one it
 reads lines: at a terminal with a prompt, otherwise from standard input, one
 result for each line. [ans] is the result before.
 
+  [VA]=1.5                   sets a variable; its names are [VA] to [VZ]
+  [VA]=[1 2;3 4]             a matrix: elements part at blanks, rows at ";"
+  LIST=1 2 3                 the data of sum(), avg(), median() and the like
+  [VB]=inv([VA])             any expression will do
+
+An expression is one of matrices when it names a matrix or uses det, inv, trans,
+rank, eigl, eigv, diag, orth, tri or solve; in it + - * / are the only others.
+
   --angle deg|rad|grad       unit of angles (deg)
   --format norm|fix|sci|frac output format (norm)
   --fixed N                  format fix with N decimals (4)

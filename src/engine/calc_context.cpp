@@ -4,11 +4,6 @@
 
 namespace quorix {
 
-CalcContext& calcContext() {
-    static constinit CalcContext context;
-    return context;
-}
-
 void ClearCalcError() {
     calcContext().calcError = 0;
     ClearNumericError();

@@ -19,7 +19,10 @@ struct CalcContext {
 };
 
 /// The one context of the process.
-CalcContext& calcContext();
+inline CalcContext& calcContext() {
+    static constinit CalcContext context;
+    return context;
+}
 
 /// Sets calcError and the numeric error flag to 0.
 void ClearCalcError();

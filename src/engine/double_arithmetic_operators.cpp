@@ -50,24 +50,4 @@ void DoubleDivide(OperandStack<DComplex>& stack, std::int32_t base) {
     }
 }
 
-double RealAdd(double left, double right) {
-    return left + right;
-}
-
-double RealSubtract(double left, double right) {
-    return left - right;
-}
-
-double RealNegate(double operand) {
-    return 0.0 - operand;
-}
-
-double RealMultiply(double left, double right) {
-    return left * right;
-}
-
-double RealDivide(double left, double right) {
-    return right == 0.0 ? kNoRealResult : left / right;
-}
-
 }  // namespace quorix

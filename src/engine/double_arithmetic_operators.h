@@ -15,10 +15,20 @@ void DoubleMultiply(OperandStack<DComplex>& stack, std::int32_t base);
 void DoubleDivide(OperandStack<DComplex>& stack, std::int32_t base);
 
 /// The same where no imaginary part is involved.
-double RealAdd(double left, double right);
-double RealSubtract(double left, double right);
-double RealNegate(double operand);
-double RealMultiply(double left, double right);
-double RealDivide(double left, double right);
+inline double RealAdd(double left, double right) {
+    return left + right;
+}
+inline double RealSubtract(double left, double right) {
+    return left - right;
+}
+inline double RealNegate(double operand) {
+    return 0.0 - operand;
+}
+inline double RealMultiply(double left, double right) {
+    return left * right;
+}
+inline double RealDivide(double left, double right) {
+    return right == 0.0 ? kNoRealResult : left / right;
+}
 
 }  // namespace quorix

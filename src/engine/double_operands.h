@@ -3,15 +3,11 @@
 // What the rows of the double operator table share.
 
 #include <cmath>
-#include <limits>
 
 #include "engine/operator_table.h"
 #include "numerics/qreal.h"
 
 namespace quorix {
-
-/// What a real form gives for an outcome that is no real number.
-inline constexpr double kNoRealResult = std::numeric_limits<double>::quiet_NaN();
 
 inline bool IsReal(const DComplex& number) {
     return number.im == 0.0;

@@ -57,13 +57,10 @@ void ApplyInteger(OperandStack<DComplex>& stack, std::int32_t base) {
     }
 }
 
-double RealOutcome(const IntegerOutcome& outcome) {
-    return outcome.error != 0 ? kNoRealResult : outcome.value;
-}
-
 template <BinaryIntegerOperation operation>
 double ApplyRealInteger(double left, double right) {
-    return RealOutcome(operation(left, right, calcContext().wordSize));
+    const IntegerOutcome outcome = operation(left, right, calcContext().wordSize);
+    return outcome.error != 0 ? kNoRealResult : outcome.value;
 }
 
 template <BinaryIntegerOperation operation>
@@ -84,7 +81,7 @@ void ApplyComplement(OperandStack<DComplex>& stack, std::int32_t base) {
 
 template <UnaryIntegerOperation operation>
 double ApplyRealComplement(double operand) {
-    return RealOutcome(operation(operand, calcContext().wordSize));
+    return std::isnan(operand) ? kNoRealResult : operation(operand, calcContext().wordSize).value;
 }
 
 template <UnaryIntegerOperation operation>

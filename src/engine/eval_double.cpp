@@ -1,5 +1,6 @@
 #include "engine/eval_double.h"
 
+#include <cmath>
 #include <numbers>
 
 #include "engine/double_operator_table.h"
@@ -51,9 +52,9 @@ std::optional<DComplex> Run(DoubleWorkspace& workspace, double boundValue) {
         workspace.realVersion = workspace.expression.Version();
         workspace.real.Build(workspace.expression);
     }
-    double value = 0.0;
-    if (!workspace.real.IsUsable() || !workspace.real.Run(boundValue, value))
-        return Walk(workspace, boundValue);
+    if (!workspace.real.IsUsable()) return Walk(workspace, boundValue);
+    const double value = workspace.real.Run(boundValue);
+    if (std::isnan(value)) return Walk(workspace, boundValue);
     const std::u16string_view lastOperator = workspace.real.LastOperator();
     if (!lastOperator.empty()) repeatRegisters().lastOperator = lastOperator;
     return DComplex{value, 0.0};
@@ -67,6 +68,28 @@ std::optional<DComplex> EvalToDouble(std::u16string_view text, std::u16string_vi
     const WorkspaceLease<DoubleWorkspace> workspace;
     if (!workspace->expression.Prepare(text, boundName, radix, DoubleOperatorTable())) return std::nullopt;
     return Run(*workspace, boundValue);
+}
+
+struct DoubleSampler::Workspace : DoubleWorkspace {
+    bool isCompiled = false;
+};
+
+DoubleSampler::DoubleSampler(std::u16string_view text, std::u16string_view boundName, int radix)
+    : workspace_(std::make_unique<Workspace>()) {
+    workspace_->isCompiled = calcContext().calcError == 0 &&
+                             workspace_->expression.Prepare(text, boundName, radix, DoubleOperatorTable());
+}
+
+DoubleSampler::~DoubleSampler() = default;
+
+std::optional<DComplex> DoubleSampler::At(double boundValue) {
+    CalcContext& context = calcContext();
+    if (context.calcError != 0) return std::nullopt;
+    if (!workspace_->isCompiled) {
+        context.calcError = ERROR_SYNTAX;
+        return std::nullopt;
+    }
+    return Run(*workspace_, boundValue);
 }
 
 }  // namespace quorix

@@ -2,6 +2,7 @@
 
 // The evaluator behind graphs, integrals and root searches: thousands of runs of one expression.
 
+#include <memory>
 #include <optional>
 #include <string_view>
 
@@ -14,5 +15,21 @@ namespace quorix {
 /// read. An expression that equals the one of the call before is not compiled again.
 std::optional<DComplex> EvalToDouble(std::u16string_view text, std::u16string_view boundName,
                                      double boundValue, int radix);
+
+/// One expression at many points, compiled once: what EvalToDouble gives, without the look at its text.
+class DoubleSampler {
+  public:
+    /// After a failure (-1 in calcError) every point gives nothing, with -1 again.
+    DoubleSampler(std::u16string_view text, std::u16string_view boundName, int radix);
+    ~DoubleSampler();
+    DoubleSampler(const DoubleSampler&) = delete;
+    DoubleSampler& operator=(const DoubleSampler&) = delete;
+
+    std::optional<DComplex> At(double boundValue);
+
+  private:
+    struct Workspace;
+    std::unique_ptr<Workspace> workspace_;
+};
 
 }  // namespace quorix

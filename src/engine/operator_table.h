@@ -4,6 +4,7 @@
 // stack.
 
 #include <cstdint>
+#include <limits>
 #include <span>
 #include <string_view>
 
@@ -54,9 +55,11 @@ struct OperatorRow {
 };
 
 /// The same on plain doubles, for operands whose imaginary parts are zero. A result that is not a number
-/// tells that the outcome is none, no real number or an error; nothing else may then have changed.
+/// (kNoRealResult) tells that the outcome is none, no real number or an error; nothing else may then have
+/// changed. An operand that is not a number gives such a result, whatever the other one is.
 using RealFunction = double (*)(double operand);
 using RealOperation = double (*)(double left, double right);
+inline constexpr double kNoRealResult = std::numeric_limits<double>::quiet_NaN();
 
 /// A row of the double table also knows its real forms for one and for two operands, null where it has none.
 template <>

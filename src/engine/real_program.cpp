@@ -1,8 +1,9 @@
 #include "engine/real_program.h"
 
+#include <algorithm>
 #include <array>
-#include <cmath>
 #include <numbers>
+#include <type_traits>
 
 #include "engine/double_arithmetic_operators.h"
 #include "engine/double_power_operators.h"
@@ -13,8 +14,100 @@ namespace {
 
 // Deeper expressions take the complex way.
 constexpr std::int32_t kLaneDepth = 64;
-// Place of the bound variable among the values.
-constexpr std::uint32_t kBoundValue = 0;
+
+using Instruction = RealProgram::Instruction;
+using Handler = RealProgram::Handler;
+
+inline double GoOn(const Instruction* at, double* below, double last, double x) {
+    ++at;
+    return at->handler(at, below, last, x);
+}
+
+double Finish(const Instruction* /*at*/, double* /*below*/, double last, double /*x*/) {
+    return last;
+}
+
+// The first push stores a value that is never read.
+double PushBound(const Instruction* at, double* below, double last, double x) {
+    *++below = last;
+    return GoOn(at, below, x, x);
+}
+double PushConstant(const Instruction* at, double* below, double last, double x) {
+    *++below = last;
+    return GoOn(at, below, at->constant, x);
+}
+
+// Functions of the last operand, of the bound variable and of a constant, the latter two pushed by the way.
+// Those that are short are done in place, the others called.
+template <auto function>
+double Apply(const Instruction* at, double operand) {
+    if constexpr (std::is_null_pointer_v<decltype(function)>) {
+        return at->function(operand);
+    } else {
+        return function(operand);
+    }
+}
+template <auto function>
+double OfLast(const Instruction* at, double* below, double last, double x) {
+    return GoOn(at, below, Apply<function>(at, last), x);
+}
+template <auto function>
+double OfBound(const Instruction* at, double* below, double last, double x) {
+    *++below = last;
+    return GoOn(at, below, Apply<function>(at, x), x);
+}
+template <auto function>
+double OfConstant(const Instruction* at, double* below, double last, double x) {
+    *++below = last;
+    return GoOn(at, below, Apply<function>(at, at->constant), x);
+}
+
+struct FunctionHandlers {
+    RealFunction function;
+    Handler ofLast, ofBound, ofConstant;
+};
+template <auto function>
+constexpr FunctionHandlers HandlersOfFunction() {
+    return {function, OfLast<function>, OfBound<function>, OfConstant<function>};
+}
+// The row without a function calls the instruction's.
+constexpr auto kFunctionHandlers = std::to_array<FunctionHandlers>(
+    {HandlersOfFunction<RealNegate>(), HandlersOfFunction<RealSquare>(), HandlersOfFunction<nullptr>()});
+
+// Operations whose right operand is the last one, the bound variable or a constant.
+template <auto operation>
+double Apply(const Instruction* at, double left, double right) {
+    if constexpr (std::is_null_pointer_v<decltype(operation)>) {
+        return at->operation(left, right);
+    } else {
+        return operation(left, right);
+    }
+}
+template <auto operation>
+double ByLast(const Instruction* at, double* below, double last, double x) {
+    const double left = *below;
+    return GoOn(at, below - 1, Apply<operation>(at, left, last), x);
+}
+template <auto operation>
+double ByBound(const Instruction* at, double* below, double last, double x) {
+    return GoOn(at, below, Apply<operation>(at, last, x), x);
+}
+template <auto operation>
+double ByConstant(const Instruction* at, double* below, double last, double x) {
+    return GoOn(at, below, Apply<operation>(at, last, at->constant), x);
+}
+
+struct OperationHandlers {
+    RealOperation operation;
+    Handler byLast, byBound, byConstant;
+};
+template <auto operation>
+constexpr OperationHandlers HandlersOfOperation() {
+    return {operation, ByLast<operation>, ByBound<operation>, ByConstant<operation>};
+}
+constexpr auto kOperationHandlers = std::to_array<OperationHandlers>(
+    {HandlersOfOperation<RealAdd>(), HandlersOfOperation<RealSubtract>(), HandlersOfOperation<RealMultiply>(),
+     HandlersOfOperation<RealDivide>(), HandlersOfOperation<nullptr>()});
 
 }  // namespace
 
@@ -24,16 +117,20 @@ DoubleNumber DoubleNumber::FromText(std::u16string_view text) {
 
 void RealProgram::Build(const DoubleExpression& expression) {
     instructions_.clear();
-    values_.assign(1, 0.0);
     lastOperator_ = {};
     depth_ = 0;
+    pushed_ = Pushed::nothing;
     bases_.Clear();
-    for (const ResolvedToken<DComplex>& token : expression.Tokens()) {
-        if (!Append(token, expression)) {
-            instructions_.clear();
-            return;
-        }
+    if (AppendAll(expression) && depth_ == 1) {
+        instructions_.push_back({Finish});
+    } else {
+        instructions_.clear();
     }
+}
+
+bool RealProgram::AppendAll(const DoubleExpression& expression) {
+    return std::ranges::all_of(expression.Tokens(),
+                               [&](const auto& token) { return Append(token, expression); });
 }
 
 bool RealProgram::Append(const ResolvedToken<DComplex>& token, const DoubleExpression& expression) {
@@ -42,10 +139,11 @@ bool RealProgram::Append(const ResolvedToken<DComplex>& token, const DoubleExpre
         case ResolvedKind::open:
             return bases_.Depth() < static_cast<std::size_t>(kLaneDepth) && bases_.Open(depth_);
         case ResolvedKind::close: bases_.Close(); return true;
-        case ResolvedKind::number: return AppendConstant(expression.NumberAt(token.index).value);
-        case ResolvedKind::bound: return AppendPush(kBoundValue);
-        case ResolvedKind::pi: return AppendConstant(std::numbers::pi);
-        case ResolvedKind::e: return AppendConstant(std::numbers::e);
+        case ResolvedKind::number:
+            return AppendPush(Pushed::constant, expression.NumberAt(token.index).value);
+        case ResolvedKind::bound: return AppendPush(Pushed::boundVariable, 0.0);
+        case ResolvedKind::pi: return AppendPush(Pushed::constant, std::numbers::pi);
+        case ResolvedKind::e: return AppendPush(Pushed::constant, std::numbers::e);
         default: return false;
     }
 }
@@ -64,104 +162,50 @@ bool RealProgram::AppendOperation(const OperatorRow<DComplex>& row) {
 }
 
 void RealProgram::AppendFunction(RealFunction function) {
-    Instruction instruction;
-    instruction.code = function == RealNegate ? Code::negate : Code::callOne;
-    instruction.function = function;
-    instructions_.push_back(instruction);
+    const FunctionHandlers& handlers = *std::ranges::find_if(kFunctionHandlers, [function](const auto& row) {
+        return row.function == function || row.function == nullptr;
+    });
+    if (pushed_ == Pushed::nothing) {
+        instructions_.push_back({handlers.ofLast});
+    } else {
+        instructions_.back().handler = pushed_ == Pushed::constant ? handlers.ofConstant : handlers.ofBound;
+    }
+    instructions_.back().function = function;
+    pushed_ = Pushed::nothing;
 }
 
-// A value that was pushed just now becomes the right operand of the operation itself.
 void RealProgram::AppendBinary(RealOperation operation) {
     --depth_;
-    const Code code = CodeOf(operation);
-    if (instructions_.back().code != Code::push) {
-        Instruction instruction;
-        instruction.code = code;
-        instruction.operation = operation;
-        instructions_.push_back(instruction);
+    if (operation == RealPower && pushed_ == Pushed::constant && instructions_.back().constant == 2.0) {
+        instructions_.pop_back();
+        pushed_ = Pushed::nothing;
+        AppendFunction(RealSquare);
         return;
     }
-    Instruction& last = instructions_.back();
-    const bool isSquare = operation == RealPower && last.value != kBoundValue && values_[last.value] == 2.0;
-    last.code = isSquare ? Code::square
-                         : static_cast<Code>(static_cast<int>(code) + static_cast<int>(Code::addValue) -
-                                             static_cast<int>(Code::add));
-    last.operation = operation;
+    const OperationHandlers& handlers = *std::ranges::find_if(
+        kOperationHandlers,
+        [operation](const auto& row) { return row.operation == operation || row.operation == nullptr; });
+    if (pushed_ == Pushed::nothing) {
+        instructions_.push_back({handlers.byLast});
+    } else {
+        instructions_.back().handler = pushed_ == Pushed::constant ? handlers.byConstant : handlers.byBound;
+    }
+    instructions_.back().operation = operation;
+    pushed_ = Pushed::nothing;
 }
 
-bool RealProgram::AppendConstant(double constant) {
-    values_.push_back(constant);
-    return AppendPush(static_cast<std::uint32_t>(values_.size() - 1));
-}
-
-bool RealProgram::AppendPush(std::uint32_t value) {
+bool RealProgram::AppendPush(Pushed pushed, double constant) {
     if (depth_ >= kLaneDepth) return false;
-    Instruction instruction;
-    instruction.value = value;
-    instructions_.push_back(instruction);
+    instructions_.push_back({pushed == Pushed::constant ? PushConstant : PushBound, constant});
+    pushed_ = pushed;
     ++depth_;
     return true;
 }
 
-// The four operations are done in place; everything else is called.
-RealProgram::Code RealProgram::CodeOf(RealOperation operation) {
-    if (operation == RealAdd) return Code::add;
-    if (operation == RealSubtract) return Code::subtract;
-    if (operation == RealMultiply) return Code::multiply;
-    if (operation == RealDivide) return Code::divide;
-    return Code::callTwo;
-}
-
-// The last operand is held in `last`, the others below it in the array. The first push stores a value that is
-// never read, so that the first operand lies at index 2 once there is a second. A not-a-number of an operator
-// that is called ends the lane.
-bool RealProgram::Run(double boundValue, double& result) {
-    std::array<double, kLaneDepth + 3> stack;
-    double* below = stack.data();
-    double last = 0.0;
-    values_[kBoundValue] = boundValue;
-    const double* const values = values_.data();
-    for (const Instruction& instruction : instructions_) {
-        switch (instruction.code) {
-            case Code::push:
-                *++below = last;
-                last = values[instruction.value];
-                break;
-            case Code::add: last = *below-- + last; break;
-            case Code::subtract: last = *below-- - last; break;
-            case Code::multiply: last = *below-- * last; break;
-            case Code::divide:
-                if (last == 0.0) return false;
-                last = *below-- / last;
-                break;
-            case Code::callTwo:
-                last = instruction.operation(*below--, last);
-                if (std::isnan(last)) return false;
-                break;
-            case Code::addValue: last += values[instruction.value]; break;
-            case Code::subtractValue: last -= values[instruction.value]; break;
-            case Code::multiplyValue: last *= values[instruction.value]; break;
-            case Code::divideValue:
-                if (values[instruction.value] == 0.0) return false;
-                last /= values[instruction.value];
-                break;
-            case Code::callTwoValue:
-                last = instruction.operation(last, values[instruction.value]);
-                if (std::isnan(last)) return false;
-                break;
-            case Code::negate: last = 0.0 - last; break;
-            case Code::square:
-                last = RealSquare(last);
-                if (std::isnan(last)) return false;
-                break;
-            case Code::callOne:
-                last = instruction.function(last);
-                if (std::isnan(last)) return false;
-                break;
-        }
-    }
-    result = depth_ == 1 ? last : stack[2];
-    return true;
+double RealProgram::Run(double x) const {
+    std::array<double, kLaneDepth + 2> stack;
+    const Instruction* first = instructions_.data();
+    return first->handler(first, stack.data(), 0.0, x);
 }
 
 }  // namespace quorix

@@ -19,6 +19,9 @@ struct RepeatRegisters {
 };
 
 /// The one set of the process.
-RepeatRegisters& repeatRegisters();
+inline RepeatRegisters& repeatRegisters() {
+    static constinit RepeatRegisters registers;
+    return registers;
+}
 
 }  // namespace quorix

@@ -29,14 +29,16 @@ constexpr TextFont kEqualsFont = {.em = 16.5, .weight = kBoldWeight};
 constexpr double kStatusBaseline = 10.6;
 constexpr double kPendingBaseline = 11;
 constexpr double kLineBaseline = 28;
-constexpr double kResultBaseline = 44;
-constexpr double kEqualsBaseline = 45;
+constexpr double kResultBaseline = 45;
+constexpr double kNarrowResultBaseline = 44;
+constexpr double kEqualsBaseline = 45.4;
 
 constexpr int kMarkInset = 1;      // A mark stands this far inside its rectangle,
 constexpr int kMarkClearance = 3;  // and at least this far from its end.
 constexpr int kCursorHeight = 2;
 constexpr int kFrameLines = 3;
 constexpr double kArrowWidth = 5;
+constexpr double kArrowInset = 4;  // From its rectangle's outer side to its tip.
 constexpr double kArrowHalfHeight = 5;
 
 constexpr char16_t kSeparator = 0x00B8;
@@ -96,7 +98,8 @@ QString MarkTextOf(std::int32_t id) {
 void PaintArrow(QPainter& painter, DisplayPart part, int scale) {
     const QRectF rect = ToQRect(DisplayPartRect(part, scale));
     const double direction = part == DisplayPart::leftArrow ? -1 : 1;
-    const QPointF tip = rect.center() + QPointF(direction * kArrowWidth / 2 * scale, 0);
+    const double outerSide = part == DisplayPart::leftArrow ? rect.left() : rect.right();
+    const QPointF tip(outerSide - direction * kArrowInset * scale, rect.center().y());
     const double back = tip.x() - direction * kArrowWidth * scale;
     QPainterPath triangle(tip);
     triangle.lineTo(back, tip.y() - kArrowHalfHeight * scale);
@@ -242,7 +245,6 @@ void LedPainter::PaintLine(QPainter& painter, const CLedDisplay& display, const 
 
 void LedPainter::PaintResult(QPainter& painter, const CLedDisplay& display, int scale) const {
     painter.setPen(ColorOf(display_colors::kText));
-    const double baseline = BaselineOf(kResultBaseline, scale);
     if (display.ShowsEquals()) {
         painter.setFont(ScreenFont(kEqualsFont, scale));
         const Rect mark = DisplayPartRect(DisplayPart::equalsMark, scale);
@@ -260,9 +262,11 @@ void LedPainter::PaintResult(QPainter& painter, const CLedDisplay& display, int 
     const bool isBinary = display.GetBase() == RADIX_BIN && display.GetWordSize() == WORD_32 &&
                           (result.front() == u'0' || result.front() == u'1');
     QFont font = ScreenFont(isBinary ? kBinaryFont : kResultFont, scale);
-    if (!isBinary && !fits(font, result)) {
+    const bool isNarrow = !isBinary && !fits(font, result);
+    if (isNarrow) {
         font = ScreenFont(kNarrowResultFont, scale);
     }
+    const double baseline = BaselineOf(isBinary || isNarrow ? kNarrowResultBaseline : kResultBaseline, scale);
     const QString text =
         Painted(CutToFit(result, [&](std::u16string_view part) { return fits(font, part); }));
     painter.setFont(font);

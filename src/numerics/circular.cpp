@@ -111,17 +111,10 @@ SinCos SineAndCosine(const Wide& x) {
     const Wide near = SineOfRest(reduced.rest), far = SineOfRest(reduced.complement);
     SinCos result;
     switch (reduced.quadrant) {
-        case 0:
-            result = {near, far};
-            break;
-        case 1:
-            result = {far, -near};
-            break;
-        case 2:
-            result = {-near, -far};
-            break;
-        default:
-            result = {-far, near};
+        case 0: result = {near, far}; break;
+        case 1: result = {far, -near}; break;
+        case 2: result = {-near, -far}; break;
+        default: result = {-far, near};
     }
     if (x.IsNegative()) result.sin = -result.sin;
     return result;

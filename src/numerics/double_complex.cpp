@@ -90,11 +90,8 @@ DComplex sqrt(DComplex z) {
     return {z.im / (2.0 * signedW), signedW};
 }
 
-DComplex exp(DComplex z) {
+DComplex complex_part::exp(DComplex z) {
     const double size = std::exp(z.re);
-    if (z.im == 0.0) {
-        return {size, 0.0};
-    }
     return {size * std::cos(z.im), size * std::sin(z.im)};
 }
 

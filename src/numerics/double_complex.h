@@ -6,9 +6,18 @@
 // branches; a real argument inside a function's real domain goes by the C library, so that its result has no
 // imaginary noise.
 
+#include <cmath>
+
 #include "numerics/qreal.h"
 
 namespace quorix::dcomplex {
+
+/// What the functions below that are told here in full do with an imaginary part; theirs must not be zero.
+namespace complex_part {
+DComplex exp(DComplex z);
+DComplex sin(DComplex z);
+DComplex cos(DComplex z);
+}  // namespace complex_part
 
 /// Square root of re² + im², without scaling: it overflows from 1e154 on unless the number is real.
 double magnitude(DComplex z);
@@ -28,10 +37,16 @@ DComplex pow(DComplex a, DComplex b);
 DComplex ln(DComplex z);
 DComplex log10(DComplex z);
 DComplex sqrt(DComplex z);
-DComplex exp(DComplex z);
+inline DComplex exp(DComplex z) {
+    return z.im == 0.0 ? DComplex{std::exp(z.re), 0.0} : complex_part::exp(z);
+}
 
-DComplex sin(DComplex z);
-DComplex cos(DComplex z);
+inline DComplex sin(DComplex z) {
+    return z.im == 0.0 ? DComplex{std::sin(z.re), 0.0} : complex_part::sin(z);
+}
+inline DComplex cos(DComplex z) {
+    return z.im == 0.0 ? DComplex{std::cos(z.re), 0.0} : complex_part::cos(z);
+}
 DComplex tan(DComplex z);
 DComplex cot(DComplex z);
 DComplex sec(DComplex z);

@@ -18,17 +18,11 @@ bool IsReal(DComplex z) {
 
 }  // namespace
 
-DComplex sin(DComplex z) {
-    if (IsReal(z)) {
-        return {std::sin(z.re), 0.0};
-    }
+DComplex complex_part::sin(DComplex z) {
     return {std::sin(z.re) * std::cosh(z.im), std::cos(z.re) * std::sinh(z.im)};
 }
 
-DComplex cos(DComplex z) {
-    if (IsReal(z)) {
-        return {std::cos(z.re), 0.0};
-    }
+DComplex complex_part::cos(DComplex z) {
     return {std::cos(z.re) * std::cosh(z.im), -std::sin(z.re) * std::sinh(z.im)};
 }
 

@@ -13,6 +13,8 @@
 #include "console/console_options.h"
 #include "console/console_session.h"
 #include "console/prompt.h"
+#include "engine/eval_matrix.h"
+#include "matrix/matrix_operators.h"
 #include "support/engine_fixture.h"
 
 namespace quorix {
@@ -106,6 +108,89 @@ TEST_F(ConsoleTest, SettingsShapeTheAnswer) {
         ConsoleSession session(ParseOptions(row.arguments).options);
         EXPECT_EQ(Answer(session, row.line), row.answer) << row.line;
     }
+}
+
+TEST_F(ConsoleTest, VariablesHoldNumbersMatricesAndLists) {
+    SetMatrixOperators(MatrixOperatorTable());
+    const struct {
+        std::string_view line, answer;
+    } rows[] = {
+        {"[VA]=1.5", "1.5"},
+        {" [vb] = [VA]*2 ", "3"},
+        {"[VA]+[VB]", "4.5"},
+        {"[VW]=(1+i)^0+i", "1.0000E0+i"},
+        {"[VW]-i", "1"},
+        {"[VA]=[1 2;3 4]", "[1 2;3 4]"},
+        {"[ans]*2", "[2 4;6 8]"},
+        {"[VB]=inv([VA])", "[-2 1;1.5 -0.5]"},
+        {"[VA]*[VB]", "[1 0;0 1]"},
+        {"det([VA])", "-2"},
+        {"[VC]=det([VA])", "-2"},
+        {"[VC]+1", "-1"},
+        {"solve([VA],[VB])", "[5.5 -2.5;-3.75 1.75]"},
+        {"[VZ]=[ -.5\t1e3 ;\u22122 +0.1 ]", "[-0.5 1000;-2 0.1]"},
+        {"[VZ]*[VZ]-[VZ]*[VZ]", "[0 0;0 0]"},
+        {"-([VZ]-[VZ])", "[0 0;0 0]"},
+        {"[VD]=[1e300 1e-300 0.30000000000000004]", "[1e+300 1e-300 0.30000000000000004]"},
+        {"LIST=1 2 -4", "[1;2;-4]"},
+        {"sum()", "-1"},
+        {"list=[1;2;4.5]", "[1;2;4.5]"},
+        {"avg()*2", "5"},
+        {"LIST=trans([VD])", "[1e+300;1e-300;0.30000000000000004]"},
+        {"N()", "3"},
+        {"[VA]=2", "2"},  // A number again.
+        {"[VA]*2", "4"},
+    };
+    ConsoleSession session(Parse({}).options);
+    for (const auto& row : rows) EXPECT_EQ(Answer(session, row.line), row.answer) << row.line;
+
+    ConsoleSession european(Parse({"--locale", "european"}).options);
+    EXPECT_EQ(Answer(european, "[VA]=[1,5 -2;0 1]"), "[1,5 -2;0 1]");
+    EXPECT_EQ(Answer(european, "[VB]=solve([VA];[VA])"), "[1 0;0 1]");
+    EXPECT_EQ(Answer(european, "LIST=1,5 2,5"), "[1,5;2,5]");
+    EXPECT_EQ(Answer(european, "sum()"), "4");
+    SetMatrixOperators({});
+}
+
+TEST_F(ConsoleTest, BadAssignmentsSayWhatIsWrong) {
+    SetMatrixOperators(MatrixOperatorTable());
+    std::string wide = "[VA]=[1";
+    for (int i = 0; i < 30; ++i) wide += " 1";
+    const struct {
+        std::string line, message;
+    } rows[] = {
+        {"[VRE]=1", "[VRE] cannot be set; variables are [VA] to [VZ], and LIST"},
+        {"[ans]=1", "[ans] cannot be set; variables are [VA] to [VZ], and LIST"},
+        {"[VLRE]=1", "[VLRE] cannot be set; variables are [VA] to [VZ], and LIST"},
+        {"[X]=1", "[X] cannot be set; variables are [VA] to [VZ], and LIST"},
+        {"[VA]=", "Syntax error"},
+        {"[VA]=1/0", "Invalid parameter(s)"},
+        {"[VA]=[1 2;3]", "The rows of a matrix must have one length"},
+        {"[VA]=[1 2;]", "The rows of a matrix must have one length"},
+        {"[VA]=[1 2x]", "\"2x\" is no number"},
+        {"[VA]=[1,5]", "\"1,5\" is no number"},
+        {"[VA]=[1e999]", "\"1e999\" is too large"},
+        {"[VA]=[]", "A matrix has 1 to 30 rows and columns"},
+        {wide + "]", "A matrix has 1 to 30 rows and columns"},
+        {"[VA]=[1 2", "A matrix ends in \"]\""},
+        {"[VA]=[1 2][3]", "\"2][3\" is no number"},
+        {"LIST=[1 2", "\"[1\" is no number"},
+        {"LIST=", "A list holds 1 to 65535 numbers"},
+        {"LIST=1 2+3", "\"2+3\" is no number"},
+        {"LIST=inv([VB])", "A list is a matrix of one column"},
+        {"1=2", "Syntax error"},
+        {"[VA]*2=3", "Syntax error"},
+        {"sin([VB])", "Syntax error"},
+        {"inv([VC])", "Matrix inversion error"},
+        {"[VB]+1", "Matrix addition error"},
+    };
+    ConsoleSession session(Parse({}).options);
+    Answer(session, "[VB]=[2 0;0 2]");
+    Answer(session, "[VC]=[1 2;2 4]");
+    for (const auto& row : rows) EXPECT_EQ(Answer(session, row.line, false), row.message) << row.line;
+    EXPECT_EQ(Answer(session, "[VA]"), "0");  // No failure has set it.
+    EXPECT_EQ(Answer(session, "[VB]"), "[2 0;0 2]");
+    SetMatrixOperators({});
 }
 
 class Pipe {
@@ -210,6 +295,7 @@ TEST_F(ConsoleTest, TheProgramTellsSuccessByItsStatus) {
         {{"-3+5"}, "", 0, "2\n", ""},
         {{"1/0"}, "", 1, "", "Invalid parameter(s)\n"},
         {{}, "1+2\n[ans]+1\n", 0, "3\n4\n", ""},
+        {{}, "[VA]=[1 2;3 4]\ndet([VA])\n", 0, "[1 2;3 4]\n-2\n", ""},
         {{}, "1+2\n(\n", 1, "3\n", "Syntax error\n"},
         {{"--digits", "none"}, "", 2, "", "quorix-calc: option --digits does not take \"none\"\n"},
         {{"--version"}, "", 0, "quorix-calc ", ""},

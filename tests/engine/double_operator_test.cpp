@@ -502,5 +502,68 @@ TEST_F(DoubleOperatorTest, ExpressionsOfGraphs) {
     EXPECT_EQ(calcContext().calcError, -7);
 }
 
+// Random expressions over the operators that text can name.
+class Shapes {
+  public:
+    explicit Shapes(unsigned seed) : random_(seed) {}
+
+    std::u16string Expression(int depth) {
+        if (depth == 0 || Below(5) == 0)
+            return Below(2) == 0 ? u"x" : Pick({u"2", u"0.5", u"3", u"pi", u"0"});
+        switch (Below(4)) {
+            case 0:
+                return Pick({u"sin", u"cos", u"tan", u"ln", u"sqrt", u"exp", u"asin", u"csc", u"abs"}) +
+                       u"(" + Expression(depth - 1) + u")";
+            case 1: return u"(-" + Expression(depth - 1) + u")" + Pick({u"", u"%", u"!"});
+            default:
+                return u"(" + Expression(depth - 1) +
+                       Pick({u"+", u"-", u"*", u"/", u"^", u"^2+", u" root ", u" mod ", u" and "}) +
+                       Expression(depth - 1) + u")";
+        }
+    }
+
+  private:
+    unsigned Below(unsigned n) { return static_cast<unsigned>(random_()) % n; }
+    std::u16string Pick(std::initializer_list<std::u16string_view> words) {
+        return std::u16string(words.begin()[Below(static_cast<unsigned>(words.size()))]);
+    }
+
+    std::mt19937 random_;
+};
+
+// An "i" in the text keeps the evaluator out of the lane of plain doubles.
+TEST_F(DoubleOperatorTest, TheLaneGivesWhatTheWalkGives) {
+    Shapes shapes(3);
+    int values = 0;
+    for (int n = 0; n < 20000; ++n) {
+        const std::u16string text = shapes.Expression(4);
+        SetUp();
+        DoubleSampler sampler(text, u"x", 10);
+        for (const double x : {-1.5, 0.0, 2.0}) {
+            SetUp();
+            const auto sampled = sampler.At(x);
+            const CalcContext inLane = calcContext();
+            SetUp();
+            const auto walked = EvalToDouble(u"(" + text + u")+0*i", u"x", x, 10);
+            ASSERT_EQ(inLane.calcError, calcContext().calcError) << Narrow(text) << " at " << x;
+            ASSERT_EQ(inLane.angleUnit, calcContext().angleUnit) << Narrow(text) << " at " << x;
+            ASSERT_EQ(sampled.has_value(), walked.has_value());
+            if (!walked || std::isnan(walked->re)) continue;
+            ASSERT_EQ(sampled->re, walked->re) << Narrow(text) << " at " << x;
+            ASSERT_EQ(sampled->im, walked->im) << Narrow(text) << " at " << x;
+            ++values;
+        }
+    }
+    EXPECT_GT(values, 10000);
+}
+
+TEST_F(DoubleOperatorTest, ASamplerKeepsItsFailure) {
+    DoubleSampler sampler(u"x+", u"x", 10);
+    EXPECT_EQ(calcContext().calcError, -1);
+    ClearCalcError();
+    EXPECT_FALSE(sampler.At(1.0));
+    EXPECT_EQ(calcContext().calcError, -1);
+}
+
 }  // namespace
 }  // namespace quorix

@@ -40,8 +40,7 @@ class QRealRandom {
                 std::fill(a.words.begin() + 3, a.words.end(), std::uint16_t{0xFFFF});
                 a.words[23] = static_cast<std::uint16_t>(Integer(0xFFFC, 0xFFFF));
                 break;
-            default:
-                std::generate(a.words.begin() + 3, a.words.end(), [this] { return Word(); });
+            default: std::generate(a.words.begin() + 3, a.words.end(), [this] { return Word(); });
         }
         a.words[3] |= 0x8000;
         return a;
