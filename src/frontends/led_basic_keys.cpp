@@ -64,8 +64,13 @@ void CLedDisplay::SendTokens(std::int32_t code) {
     if (row == nullptr) {
         return;
     }
+    const auto& tokens = settings_.inputMode == kModeRpn ? row->rpn : row->standard;
+    // The digits of x squared and its like are whole numbers, whatever the base.
+    const char16_t first = tokens[0].front();
+    const bool isDigitKey =
+        tokens[0].size() == 1 && ((first >= u'0' && first <= u'9') || (first >= u'A' && first <= u'F'));
     std::u16string popped;
-    for (const std::u16string_view token : settings_.inputMode == kModeRpn ? row->rpn : row->standard) {
+    for (const std::u16string_view token : tokens) {
         if (token.empty()) {
             break;
         }
@@ -73,10 +78,7 @@ void CLedDisplay::SendTokens(std::int32_t code) {
             SendToken(popped, false);
             continue;
         }
-        const char16_t first = token.front();
-        const bool isDigit =
-            token.size() == 1 && ((first >= u'0' && first <= u'9') || (first >= u'A' && first <= u'F'));
-        SendToken(token, isDigit);
+        SendToken(token, isDigitKey);
         if (token == u"Pop") {
             popped = PoppedText(basicValue_);
         }
