@@ -6,7 +6,7 @@ QComplex KeyEngineRpn(std::u16string_view token, std::int32_t radixId) {
     KeyMachine& machine = keyMachine();
     machine.equalsBefore = false;
     if (const std::optional<QComplex> shared = machine.HandleShared(token, radixId)) return *shared;
-    if (token == u"=") return machine.Top();
+    if (token == u"=") return machine.Answer();
     if (token == u"(" || token == u")" || token == u"DoNothing") {  // The parentheses are the Enter key.
         machine.entryState = ENTRY_NONE;
     } else if (IsBinaryKey(token)) {
@@ -17,7 +17,7 @@ QComplex KeyEngineRpn(std::u16string_view token, std::int32_t radixId) {
     } else {
         machine.EnterDigits(token, radixId);
     }
-    return machine.Top();
+    return machine.Answer();
 }
 
 }  // namespace quorix

@@ -112,6 +112,10 @@ bool IsPercentOfLeftOperand(const KeyMachine& machine) {
 void PercentOfLeftOperand(KeyMachine& machine) {
     QComplex& percentage = machine.Operands().back();
     const QComplex& whole = *(machine.Operands().end() - 2);
+    if (HasOverflowed(percentage) || HasOverflowed(whole)) {
+        calcContext().calcError = ERROR_INVALID_PARAMETER;
+        return;
+    }
     if (!IsBelowTiny(percentage.im) || !IsBelowTiny(whole.im)) {
         calcContext().calcError = ERROR_COMPLEX_UNSUPPORTED;
         return;
@@ -153,7 +157,7 @@ QComplex KeyEngineStandard(std::u16string_view token, std::int32_t radixId) {
     } else {
         machine.EnterDigits(token, radixId);
     }
-    return machine.Top();
+    return machine.Answer();
 }
 
 }  // namespace quorix

@@ -29,6 +29,11 @@ bool ParseNumberToken(std::u16string_view token, QReal& value) {
     return asctoq(narrow, value);
 }
 
+bool IsOverflowPattern(const QReal& part) {
+    return part.words[1] == QReal::kLargestExponent &&
+           std::all_of(part.words.begin() + 3, part.words.end(), [](std::uint16_t w) { return w == 0xFFFF; });
+}
+
 // Moves `part` away from zero by `amount`.
 void ExtendMagnitude(QReal& part, const QReal& amount) {
     if (part.IsNegative()) {
@@ -43,6 +48,10 @@ void ExtendMagnitude(QReal& part, const QReal& amount) {
 KeyMachine& keyMachine() {
     static KeyMachine machine;
     return machine;
+}
+
+bool HasOverflowed(const QComplex& value) {
+    return IsOverflowPattern(value.re) || IsOverflowPattern(value.im);
 }
 
 bool IsBinaryKey(std::u16string_view token) {
@@ -85,11 +94,30 @@ void KeyMachine::Apply(std::u16string_view name) {
     const std::int32_t standing = error;
     if (const OperatorRow<QComplex>* row = FindKeyOperator(name)) {
         repeatRegisters().lastOperator = row->name;
-        row->function(stack_, 0);
+        if (!TakesOverflow(row->operands)) row->function(stack_, 0);
     } else {
         error = ERROR_SYNTAX;
     }
     if (standing != 0) error = standing;
+}
+
+// 1/0 - 3 is as little a number as 1/0, and 1/(1/0) too.
+bool KeyMachine::TakesOverflow(std::int32_t operands) {
+    if (stack_.depth < operands) return false;
+    const auto taken = Operands().last(static_cast<std::size_t>(operands));
+    const auto overflowed = std::ranges::find_if(taken, HasOverflowed);
+    if (overflowed == taken.end()) return false;
+    taken.front() = *overflowed;
+    stack_.depth -= operands - 1;
+    calcContext().calcError = ERROR_INVALID_PARAMETER;
+    return true;
+}
+
+QComplex KeyMachine::Answer() const {
+    std::int32_t& error = calcContext().calcError;
+    const QComplex top = Top();
+    if (error == 0 && HasOverflowed(top)) error = ERROR_INVALID_PARAMETER;
+    return top;
 }
 
 std::optional<QComplex> KeyMachine::HandleShared(std::u16string_view token, std::int32_t radixId) {
@@ -109,7 +137,7 @@ std::optional<QComplex> KeyMachine::HandleShared(std::u16string_view token, std:
     } else {
         return std::nullopt;
     }
-    return Top();
+    return Answer();
 }
 
 // The entry state stays, so that digits may follow a change of sign.
@@ -122,7 +150,7 @@ void KeyMachine::Negate() {
 
 QComplex KeyMachine::Pop() {
     entryState = ENTRY_NONE;
-    const QComplex top = Top();
+    const QComplex top = Answer();
     DropTop();
     return top;
 }

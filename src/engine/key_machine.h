@@ -38,8 +38,11 @@ class KeyMachine {
     void ReplaceTop(const QComplex& value);
     void Reset();
 
-    /// Applies an operator to the stack; -1 when no table has it. An error that stands already survives.
+    /// Applies an operator to the stack; -1 when no table has it. An error that stands already survives. What
+    /// an overflow has left is no operand: -56, and it stays on top.
     void Apply(std::u16string_view name);
+    /// What an engine answers: the top, with -56 when an overflow has left it.
+    [[nodiscard]] QComplex Answer() const;
 
     /// The tokens that mean the same to both engines: change of sign, pop, point, clear entry, clear and pi.
     /// Result: what the engine answers, or nothing when the token is none of them.
@@ -48,6 +51,7 @@ class KeyMachine {
     void EnterDigits(std::u16string_view token, std::int32_t radixId);
 
   private:
+    bool TakesOverflow(std::int32_t operands);
     void Negate();
     QComplex Pop();
     void EnterPoint(std::int32_t radixId);
@@ -64,6 +68,9 @@ class KeyMachine {
 
 /// The one machine of the process.
 KeyMachine& keyMachine();
+
+/// Whether a part is the pattern that an overflow leaves.
+bool HasOverflowed(const QComplex& value);
 
 /// Row of an operator for the key engines, null when there is none. "exp" is the exponential of the top here.
 const OperatorRow<QComplex>* FindKeyOperator(std::u16string_view name);

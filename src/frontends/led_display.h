@@ -147,6 +147,7 @@ class CLedDisplay {
     bool CursorKey(std::int32_t code);
     void InsertTokensOf(std::int32_t code);
     void StoreStringResult();
+    void RecallInString();
     void StoreBasicLine();
     void RecallInBasic();
     void EqualsInString();

@@ -83,6 +83,13 @@ void CLedDisplay::StoreStringResult() {
     }
 }
 
+void CLedDisplay::RecallInString() {
+    const std::u16string& memory = CurrentMemory();
+    // "2+" and a memory of -3 are 2+(-3): two operators in a row are refused.
+    const bool needsParentheses = memory.starts_with(u'-') && !Line().IsEmpty();
+    InsertText(needsParentheses ? u'(' + memory + u')' : memory, false);
+}
+
 void CLedDisplay::EqualsInString() {
     if (parent_.hideToolTip) {
         parent_.hideToolTip();
@@ -106,7 +113,7 @@ void CLedDisplay::StringKey(std::int32_t code) {
         case KEY_CLEAR: ClearLine(); return;
         case KEY_DELETE: EditedLine().DeleteToken(Line().Cursor()); return;
         case KEY_STORE: StoreStringResult(); return;
-        case KEY_RECALL: InsertText(CurrentMemory(), false); return;
+        case KEY_RECALL: RecallInString(); return;
         case KEY_EQUALS: EqualsInString(); return;
         default: InsertTokensOf(code); return;
     }

@@ -192,6 +192,10 @@ TEST(StringKeys, MemoriesGiveBackWhatWasStored) {
         rig.Type("=");
         EXPECT_EQ(rig.Result(), c.again) << c.keys;
     }
+    CalculatorRig rig;
+    rig.Type("1-1001=Mc2*R=");
+    EXPECT_EQ(rig.Row(), "2×(−1000)");
+    EXPECT_EQ(rig.Result(), "-2¸000");
 }
 
 TEST(StringKeys, MemoriesBelongToTheirPageAndRefuseMessages) {
