@@ -57,7 +57,7 @@ std::u16string Searchable(std::u16string_view text) {
                   visible.begin() + static_cast<std::ptrdiff_t>(end), u'\0');
     }
     for (const NamedFunction row : {NAMED_FN_SUM, NAMED_FN_PRODUCT}) {
-        const std::u16string_view name = kNames[row];
+        const std::u16string_view name = kNames[static_cast<std::size_t>(row)];
         for (std::size_t at = 0; (at = visible.find(name, at)) != visible.npos; at += name.size()) {
             const std::size_t open = text.find(u'(', at);
             const std::size_t close = open == text.npos ? open : ClosingParenthesis(text, open);
