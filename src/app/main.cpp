@@ -11,6 +11,7 @@
 #include "platform/program_folder.h"
 #include "platform/qt/fonts.h"
 #include "platform/qt/qt_wait_cursor.h"
+#include "platform/qt/termination.h"
 #include "shell/main_frame_wnd.h"
 
 namespace {
@@ -42,6 +43,7 @@ int main(int argc, char** argv) {
     }
     quorix::QtWaitCursor waitCursor;
     quorix::SetBusySignal([&waitCursor](bool busy) { busy ? waitCursor.Show() : waitCursor.Hide(); });
+    const quorix::TerminationRequests termination([&window] { window.close(); });
     window.show();
     return QApplication::exec();
 }

@@ -190,6 +190,9 @@ bool MainFrameWnd::DesktopKey(const QKeyEvent& event) {
         view_.zoomPercent = ZoomAfter(view_.zoomPercent, 1);
     } else if (control && event.key() == Qt::Key_Minus) {
         view_.zoomPercent = ZoomAfter(view_.zoomPercent, -1);
+    } else if (control && event.key() == Qt::Key_Q) {
+        close();
+        return true;
     } else {
         return control && event.key() != Qt::Key_Control;
     }

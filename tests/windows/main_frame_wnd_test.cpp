@@ -7,8 +7,10 @@
 #include <QMenu>
 #include <QMouseEvent>
 #include <QScreen>
+#include <csignal>
 
 #include "platform/program_folder.h"
+#include "platform/qt/termination.h"
 #include "platform/utf8.h"
 #include "support/temporary_folder.h"
 
@@ -113,6 +115,20 @@ TEST_F(MainFrameWndTest, AnOddViewFileGivesAWindowThatCanBeReached) {
     EXPECT_TRUE(shows("[General]\nzoom=1e9\nshape=round\nx=-5000\ny=99999999999\n"));
     EXPECT_TRUE(shows("[General]\nx=9000\ny=100\n"));
     EXPECT_TRUE(shows("[[[\n=\n"));
+}
+
+TEST_F(MainFrameWndTest, ARequestToEndSavesTheState) {
+    {
+        const auto window = Open();
+        const TerminationRequests termination([&window] { window->close(); });
+        TypeText(*window, QStringLiteral("7*6="));
+        std::raise(SIGTERM);
+        for (int round = 0; round < 100 && window->isVisible(); ++round) {
+            QApplication::processEvents();
+        }
+        EXPECT_FALSE(window->isVisible());
+    }
+    EXPECT_EQ(Row(*Open()), "7×6");
 }
 
 TEST_F(MainFrameWndTest, APressRepaintsItsCellAlone) {
