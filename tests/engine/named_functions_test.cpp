@@ -95,6 +95,7 @@ TEST_F(NamedFunctions, RefusalsHaveTheirCodes) {
         {"fnRoot(x^2+1,x,0,2)", "error -12"},
         {"fnEval(1/x,x,0)", "error -56"},
         {"fnDeriv(1/x,x,0)", "error -56"},
+        {"fnDeriv(sqrt(-(x^2)),x,0)", "error -55"},
         {"fnInt(x,x,0)", "error -8"},
         {"rate(10,100,100,100,12)", "error -12"},
     });

@@ -75,7 +75,7 @@ TEST(ComplexFunctions, AgreeWithMpc) {
     QRealRandom random(1);
     for (const Row& row : kRows) {
         double worst = 0;
-        for (int i = 0; i < 400; ++i) {
+        for (int i = 0; i < 10000; ++i) {
             const int spread = i % 2 == 0 ? 3 : 25;
             const QComplex z{random.Number(16640 - spread, 16643), random.Number(16640 - spread, 16643)};
             QComplex own = z;
@@ -101,7 +101,7 @@ TEST(ComplexFunctions, AgreeWithMpc) {
 
 TEST(ComplexFunctions, PowersAgreeWithMpc) {
     QRealRandom random(2);
-    for (int i = 0; i < 300; ++i) {
+    for (int i = 0; i < 10000; ++i) {
         const QComplex a{random.Number(16630, 16643), random.Number(16630, 16643)};
         const QComplex b{random.Number(16630, 16643), random.Number(16630, 16643)};
         QComplex own;

@@ -49,7 +49,7 @@ TEST(Functions, AgreeWithMpfr) {
     QRealRandom random(1);
     for (const Row& row : kRows) {
         double worst = 0;
-        for (int i = 0; i < 1500; ++i) {
+        for (int i = 0; i < 10000; ++i) {
             QReal x = random.Number(row.lowExponent, row.highExponent);
             if (row.positive) qabs(x);
             QReal own = x;
@@ -68,7 +68,7 @@ TEST(Functions, AgreeWithMpfr) {
 
 TEST(Functions, PowersAgreeWithMpfr) {
     QRealRandom random(2);
-    for (int i = 0; i < 3000; ++i) {
+    for (int i = 0; i < 10000; ++i) {
         QReal x = random.Number(16630, 16650), y = random.Number(16630, 16649), own;
         if (i % 2 == 0) {
             qfloor(y, y);
