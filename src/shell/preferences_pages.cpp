@@ -1,0 +1,64 @@
+#include "shell/preferences_pages.h"
+
+#include <algorithm>
+
+#include "platform/path.h"
+
+namespace quorix {
+
+int MoveRow(CategoryOrder& order, int row, RowMove move) {
+    constexpr int kLast = kCategoryCount - 1;
+    int to = row;
+    switch (move) {
+        case RowMove::top: to = 0; break;
+        case RowMove::up: to = std::max(row - 1, 0); break;
+        case RowMove::down: to = std::min(row + 1, kLast); break;
+        case RowMove::bottom: to = kLast; break;
+    }
+    const auto from = order.begin() + row;
+    const auto target = order.begin() + to;
+    if (to < row) {
+        std::rotate(target, from, from + 1);
+    } else {
+        std::rotate(from, from + 1, target + 1);
+    }
+    return to;
+}
+
+std::vector<FileChoice> FilesIn(const std::filesystem::path& folder, std::u16string_view extension) {
+    std::vector<FileChoice> files;
+    std::error_code error;
+    for (std::filesystem::directory_iterator entry(folder, error), end; !error && entry != end;
+         entry.increment(error)) {
+        const std::u16string name = entry->path().filename().u16string();
+        const std::u16string ending = entry->path().extension().u16string();
+        if (EqualsIgnoringCase(ending, extension) && !entry->is_directory(error)) {
+            files.push_back({name.substr(0, name.size() - ending.size()), name});
+        }
+    }
+    std::sort(files.begin(), files.end(),
+              [](const FileChoice& a, const FileChoice& b) { return a.shown < b.shown; });
+    return files;
+}
+
+std::vector<FileChoice> SkinChoices(const std::filesystem::path& programFolder) {
+    std::vector<FileChoice> skins = FilesIn(ResolvePath(programFolder, u"Interfaces"), u".inf");
+    const auto standard = std::find_if(skins.begin(), skins.end(), [](const FileChoice& skin) {
+        return EqualsIgnoringCase(skin.file, u"default.inf");
+    });
+    if (standard != skins.end()) {
+        standard->shown = u"Default";
+        std::rotate(skins.begin(), standard, standard + 1);
+    }
+    return skins;
+}
+
+std::vector<FileChoice> SoundChoices(const std::filesystem::path& programFolder) {
+    return FilesIn(ResolvePath(programFolder, u"Sounds"), u".wav");
+}
+
+std::u16string_view InputModeOf(bool basic, bool reversePolish) {
+    return !basic ? kModeString : reversePolish ? kModeRpn : kModeBasic;
+}
+
+}  // namespace quorix
