@@ -339,12 +339,8 @@ void ComplexFactorial(ComplexStack& stack, std::int32_t base) {
         return;
     }
     // A fractional part is cut off: 2.5! is 2. This is intended.
-    top = constants::kComplexOne;
-    QReal factor;
-    for (std::int32_t n = 2; n <= last; ++n) {
-        ltoq(n, factor);
-        qmul(factor, top.re, top.re);
-    }
+    top = {};
+    qfactorial(static_cast<std::uint16_t>(last), top.re);
     FoldNumericError();
 }
 
