@@ -160,8 +160,8 @@ void CLedDisplay::FinishBasicKey(std::int32_t code) {
         KeyEngineClearImaginary();
     }
     const bool equals = code == KEY_EQUALS && settings_.inputMode == kModeBasic;
-    if (equals && parent_.hideToolTip) {
-        parent_.hideToolTip();
+    if (equals) {
+        HideToolTip();
     }
     ShowBasicValue(basicValue_, equals ? format_ : std::int32_t{FORMAT_NORM}, !equals);
 }

@@ -52,6 +52,9 @@ class TokenLine {
     void InsertToken(int at, std::u16string_view token);
     /// Inserts every character as a token of width 1 at the cursor.
     void InsertCharacters(std::u16string_view text);
+    /// Inserts a text cut into tokens at the cursor; tokens that do not fit the line any more are left out.
+    /// Lengths that do not add up to the text are cut anew into tokens of width 1.
+    void InsertTokens(std::u16string_view text, std::u16string_view lengths);
     /// Removes the token at `at`; behind the last token the cursor steps back and the last one goes.
     void DeleteToken(int at);
 

@@ -30,7 +30,8 @@ CMainFrame::CMainFrame(const Surroundings& surroundings, const DeviceScreen& scr
       timers_(surroundings.frameTimers),
       sound_(surroundings.sound),
       screen_(screen),
-      displayFile_(folder_ / kDisplayFileName) {
+      displayFile_(folder_ / kDisplayFileName),
+      macroFiles_(folder_) {
     RemoveAbandonedTemporaries(folder_);
     LoadPreferences(folder_ / kPreferencesFileName, surroundings.clock, preferences_);
     display_ =
@@ -40,7 +41,12 @@ CMainFrame::CMainFrame(const Surroundings& surroundings, const DeviceScreen& scr
                                                 .hideToolTip = {},
                                                 .showToolTip = {}});
     displayFile_.Restore(*display_);
-    equals_ = std::make_unique<EqualsPath>(*display_, surroundings.waitCursor);
+    macroFiles_.Load(macros_);
+    equals_ = std::make_unique<EqualsPath>(
+        *display_, surroundings.waitCursor,
+        EqualsPath::Hooks{
+            .expandMacros = [this](std::u16string& line) { return ExpandMacros(macros_, line); },
+            .storeMatrix = {}});
     previousInputMode_ = preferences_.calculator.inputMode;
 }
 
@@ -263,11 +269,12 @@ void CMainFrame::OnLedMessage(LedMessage message) {
 }
 
 bool CMainFrame::SaveState() {
+    const bool macrosWritten = macroFiles_.Save(macros_);
     Preferences saved = UserSettings();
     saved.lastCategory = static_cast<std::uint8_t>(currentCategory_);
     const bool preferencesWritten = SavePreferences(folder_ / kPreferencesFileName, saved);
     const bool displayWritten = displayFile_.Save(*display_);
-    return preferencesWritten && displayWritten;
+    return macrosWritten && preferencesWritten && displayWritten;
 }
 
 }  // namespace quorix

@@ -13,6 +13,8 @@
 #include "frontends/equals.h"
 #include "frontends/key_panel.h"
 #include "frontends/led_display.h"
+#include "frontends/macro_file.h"
+#include "frontends/macro_list.h"
 #include "frontends/panel_keys.h"
 #include "platform/clock.h"
 #include "platform/screen.h"
@@ -141,6 +143,7 @@ class CMainFrame {
     }
     /// The window that receives pad keys and typed characters, or none.
     [[nodiscard]] ModuleWindow KeyboardTarget() const { return keyboardTarget_; }
+    [[nodiscard]] const MacroList& Macros() const { return macros_; }
     /// Plays the chosen key sound, when sounds are on.
     void KeySound();
 
@@ -157,7 +160,7 @@ class CMainFrame {
     /// "=": evaluates the line.
     void Equals();
 
-    /// Shut-down: writes "preferences.dat" and "led.dat". False when one of them could not be written.
+    /// Shut-down: writes the macros, "preferences.dat" and "led.dat". False when one could not be written.
     bool SaveState();
 
   private:
@@ -174,6 +177,7 @@ class CMainFrame {
     void LowerUp(std::int32_t code);
     void RunCommand(PanelCommand command, PanelCell cell);
     void OpenFunctionList(PanelCell cell);
+    void ChooseFunction(std::size_t item);
     void SendLowerKey(std::int32_t code);
     void EndPress();
     void SetTimer(int id, int milliseconds);
@@ -191,6 +195,8 @@ class CMainFrame {
     DisplayFile displayFile_;
     std::unique_ptr<CLedDisplay> display_;
     std::unique_ptr<EqualsPath> equals_;
+    MacroFiles macroFiles_;
+    MacroList macros_;
     PanelLooks looks_;
     int currentCategory_ = 0;
     /// The user's mode while a category above 2 forces String mode.

@@ -220,6 +220,9 @@ void CMainFrame::OpenFunctionList(PanelCell cell) {
     for (const FunctionItem& item : kFunctionItems) {
         items.emplace_back(item.text);
     }
+    for (const Macro& macro : macros_.All()) {
+        items.push_back(CallTextOf(macro) + (macro.remark.empty() ? u"" : u"  " + macro.remark));
+    }
     host_.OpenPopup(POPUP_FUNCTIONS, cell, items);
 }
 
@@ -227,11 +230,19 @@ void CMainFrame::PopupChosen(PopupId id, int item) {
     const ModuleWindow owner = OwnerOf(id);
     if (owner != ModuleWindow::none) {
         host_.SendToModule(owner, MSG_POPUP_CHOSEN, item, id);
-    } else if (id == POPUP_FUNCTIONS && item >= 0 &&
-               static_cast<std::size_t>(item) < std::size(kFunctionItems)) {
-        display_->Key(kFunctionItems[item].key);
+    } else if (id == POPUP_FUNCTIONS && item >= 0) {
+        ChooseFunction(static_cast<std::size_t>(item));
     }
     host_.ClosePopup();
+}
+
+void CMainFrame::ChooseFunction(std::size_t item) {
+    if (item < std::size(kFunctionItems)) {
+        display_->Key(kFunctionItems[item].key);
+    } else if (item -= std::size(kFunctionItems); item < macros_.All().size()) {
+        const CallTokens call = CallTokensOf(macros_.All()[item]);
+        display_->InsertTokens(call.text, call.lengths);
+    }
 }
 
 void CMainFrame::OnTimer(int id) {
