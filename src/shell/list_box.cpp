@@ -36,7 +36,8 @@ Rect MorvaneListBox::UpKey() const {
 }
 
 Rect MorvaneListBox::DownKey() const {
-    return {width_ - kBorder - kScrollWidth, height_ - kBorder - kScrollWidth, width_ - kBorder, height_ - kBorder};
+    return {width_ - kBorder - kScrollWidth, height_ - kBorder - kScrollWidth, width_ - kBorder,
+            height_ - kBorder};
 }
 
 int MorvaneListBox::RowAt(Point at) const {

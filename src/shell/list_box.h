@@ -1,7 +1,7 @@
 #pragma once
 
-// The popup list of all modules, without its window: rows of fixed height, a scroll position, and what a pen or a key
-// chooses.
+// The popup list of all modules, without its window: rows of fixed height, a scroll position, and what a pen
+// or a key chooses.
 
 #include <optional>
 #include <string>
@@ -21,8 +21,8 @@ class MorvaneListBox {
     /// The two scroll keys stand in a strip of this width at the right.
     static constexpr int kScrollWidth = 20;
 
-    /// width, height: the rectangle; with fewer rows than it can show the list shrinks to them. selected: the row to
-    /// begin with, -1 for none.
+    /// width, height: the rectangle; with fewer rows than it can show the list shrinks to them. selected: the
+    /// row to begin with, -1 for none.
     MorvaneListBox(std::vector<std::u16string> items, int width, int height, int selected = -1);
 
     [[nodiscard]] const std::vector<std::u16string>& Items() const { return items_; }

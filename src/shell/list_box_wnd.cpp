@@ -21,10 +21,10 @@ constexpr int kScrollMs = 150;
 constexpr int kWheelStep = 120;
 
 constexpr std::pair<int, ListKey> kListKeys[] = {
-    {Qt::Key_Up, ListKey::up},          {Qt::Key_Down, ListKey::down},
-    {Qt::Key_PageUp, ListKey::pageUp},  {Qt::Key_PageDown, ListKey::pageDown},
-    {Qt::Key_Home, ListKey::first},     {Qt::Key_End, ListKey::last},
-    {Qt::Key_Return, ListKey::choose},  {Qt::Key_Enter, ListKey::choose},
+    {Qt::Key_Up, ListKey::up},         {Qt::Key_Down, ListKey::down},
+    {Qt::Key_PageUp, ListKey::pageUp}, {Qt::Key_PageDown, ListKey::pageDown},
+    {Qt::Key_Home, ListKey::first},    {Qt::Key_End, ListKey::last},
+    {Qt::Key_Return, ListKey::choose}, {Qt::Key_Enter, ListKey::choose},
     {Qt::Key_Escape, ListKey::close},
 };
 
@@ -63,15 +63,17 @@ void MorvaneListBoxWnd::Open(const Rect& anchor, std::vector<std::u16string> ite
 
 void MorvaneListBoxWnd::Paint(QPainter& painter, const Rect& /*dirty*/) {
     const SkinColours& colours = site_.Colours();
-    painter.fillRect(QRect(0, 0, Place().Width(), Place().Height()), ToQColor(colours[SkinColour::listBoxBorder]));
-    painter.fillRect(ToQRect(Rect{0, 0, Place().Width(), Place().Height()}.Inset(MorvaneListBox::kBorder * Scale())),
-                     ToQColor(colours[SkinColour::sheet]));
+    painter.fillRect(QRect(0, 0, Place().Width(), Place().Height()),
+                     ToQColor(colours[SkinColour::listBoxBorder]));
+    painter.fillRect(
+        ToQRect(Rect{0, 0, Place().Width(), Place().Height()}.Inset(MorvaneListBox::kBorder * Scale())),
+        ToQColor(colours[SkinColour::sheet]));
     const QFont font = ScreenFont(kRowFont, Scale());
     painter.setFont(font);
     const QFontMetrics metrics(font);
     const int count = static_cast<int>(model_->Items().size());
-    for (int row = model_->FirstVisible(); row < std::min(count, model_->FirstVisible() + model_->VisibleRows());
-         ++row) {
+    for (int row = model_->FirstVisible();
+         row < std::min(count, model_->FirstVisible() + model_->VisibleRows()); ++row) {
         const Rect place = model_->RowRect(row).Scaled(Scale());
         const bool chosen = row == model_->Selected();
         if (chosen) {
@@ -91,21 +93,21 @@ void MorvaneListBoxWnd::Paint(QPainter& painter, const Rect& /*dirty*/) {
 void MorvaneListBoxWnd::PaintScrollKeys(QPainter& painter) {
     if (density_ != Density()) {
         density_ = Density();
-        scrollKeys_ = ToQImage(LoadDense(site_.CurrentSkin().FindSkinValue("ListBoxButtons"), Scale(), Density()));
+        scrollKeys_ =
+            ToQImage(LoadDense(site_.CurrentSkin().FindSkinValue("ListBoxButtons"), Scale(), Density()));
     }
     if (scrollKeys_.isNull()) {
         return;
     }
-    // The up and down looks of "up", then those of "down".
-    const int size = scrollKeys_.height();
-    const int looks = std::max(1, scrollKeys_.width() / size);
-    const auto draw = [&](const Rect& place, int first, bool pressed) {
-        const int look = std::min(first + (pressed ? 1 : 0), looks - 1);
+    // "Up" over "down"; the up look at left, the pressed one at right.
+    const int size = scrollKeys_.width() / 2;
+    const auto draw = [&](const Rect& place, int row, bool pressed) {
         const Rect at = place.Scaled(Scale());
-        DrawPicture(painter, QPointF(at.left, at.top), scrollKeys_, QRect(look * size, 0, size, size));
+        DrawPicture(painter, QPointF(at.left, at.top), scrollKeys_,
+                    QRect(pressed ? size : 0, row * size, size, size));
     };
     draw(model_->UpKey(), 0, model_->UpPressed());
-    draw(model_->DownKey(), 2, model_->DownPressed());
+    draw(model_->DownKey(), 1, model_->DownPressed());
 }
 
 void MorvaneListBoxWnd::OnPenDown(Point at) {

@@ -9,13 +9,14 @@
 
 namespace quorix {
 
-/// A popup list over the frame. `chosen` is called once, with the row, or with -1 when it closes without a choice.
+/// A popup list over the frame. `chosen` is called once, with the row, or with -1 when it closes without a
+/// choice.
 class MorvaneListBoxWnd : public WindowBase {
   public:
     MorvaneListBoxWnd(WindowBase& frame, ModuleSite& site, int popupId, std::function<void(int row)> chosen);
 
-    /// Opens the list below `anchor` (device pixels of the client area), or above it where there is more room; as wide
-    /// as its rows need.
+    /// Opens the list below `anchor` (device pixels of the client area), or above it where there is more
+    /// room; as wide as its rows need.
     void Open(const Rect& anchor, std::vector<std::u16string> items, int selected);
     /// A key while the list is open; false for one that means nothing to it.
     bool Key(const QKeyEvent& event);

@@ -1,5 +1,6 @@
 #include "shell/main_frame_wnd.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMessageBox>
@@ -8,8 +9,8 @@
 #include <optional>
 
 #include "platform/dense_picture.h"
+#include "platform/path.h"
 #include "platform/qt/pictures.h"
-#include "platform/qt/popup_menu.h"
 #include "shell/about_dialog.h"
 #include "shell/module_factories.h"
 #include "shell/preferences_dialog.h"
@@ -17,6 +18,8 @@
 namespace quorix {
 
 namespace {
+
+constexpr std::u16string_view kManualFile = u"Quorix.htm";
 
 constexpr char16_t kBackspaceCharacter = 8;
 constexpr char16_t kEnterCharacter = 13;
@@ -50,11 +53,13 @@ bool Overlap(const Rect& a, const Rect& b) {
 
 }  // namespace
 
-MainFrameWnd::MainFrameWnd(const std::filesystem::path& programFolder, SoundPlayer* sound)
+MainFrameWnd::MainFrameWnd(const std::filesystem::path& programFolder, SoundPlayer* sound,
+                           HelpViewer* helpViewer)
     : folder_(programFolder),
       view_(LoadViewSettings(programFolder)),
       skin_(programFolder, view_.Screen()),
-      sound_(sound) {
+      sound_(sound),
+      helpViewer_(helpViewer) {
     setWindowTitle(QStringLiteral("Quorix"));
     setFocusPolicy(Qt::StrongFocus);
 }
@@ -86,6 +91,13 @@ bool MainFrameWnd::Create() {
 
 std::filesystem::path MainFrameWnd::SkinPathTried() const {
     return folder_ / std::filesystem::path(kInterfacesFolder) / std::filesystem::path(skin_.SkinFile());
+}
+
+void MainFrameWnd::Raise() {
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    show();
+    raise();
+    activateWindow();
 }
 
 bool MainFrameWnd::ApplyView() {
@@ -256,7 +268,25 @@ void MainFrameWnd::OpenAbout() {
     ShowAbout(this);
 }
 
-void MainFrameWnd::OpenHelp() {}
+void MainFrameWnd::OpenHelp() {
+    const std::filesystem::path manual = ResolvePath(folder_, kManualFile);
+    // The desktop may give up when this window has gone.
+    const auto showHere = [this, manual, alive = QPointer<MainFrameWnd>(this)] {
+        if (!alive) {
+            return;
+        }
+        if (!help_) {
+            help_ = std::make_unique<HtmlWindow>();
+        }
+        if (!help_->ShowFile(manual)) {
+            ShowNotice(
+                QStringLiteral("The help file %1 is missing.").arg(QString::fromStdString(manual.string())));
+        }
+    };
+    if (helpViewer_ == nullptr || !helpViewer_->Open(manual, showHere)) {
+        showHere();
+    }
+}
 
 void MainFrameWnd::RunTool(Tool tool) {
     switch (tool) {
@@ -274,19 +304,36 @@ void MainFrameWnd::OpenPopup(PopupId id, PanelCell at, const std::vector<std::u1
 
 void MainFrameWnd::OpenPopupAt(PopupId id, const Rect& at, const std::vector<std::u16string>& items) {
     ClosePopup();
-    popup_ = NewPopupMenu(this, Scale() * Zoom());
-    for (std::size_t i = 0; i < items.size(); ++i) {
-        const QAction* const action = popup_->addAction(QString::fromStdU16String(items[i]));
-        connect(action, &QAction::triggered, this,
-                [this, id, i] { frame_->PopupChosen(id, static_cast<int>(i)); });
-    }
-    popup_->popup(mapToGlobal(QPointF(at.left * Zoom(), at.bottom * Zoom()).toPoint()));
+    popup_ = new MorvaneListBoxWnd(*this, *this, id, [this, id](int row) {
+        ClosePopup();
+        if (row >= 0) {
+            frame_->KeySound();
+            frame_->PopupChosen(id, row);
+        }
+    });
+    popup_->Open(at, items, -1);
+    qApp->installEventFilter(this);
 }
 
 void MainFrameWnd::ClosePopup() {
     if (popup_) {
-        popup_->close();
+        qApp->removeEventFilter(this);
+        popup_->hide();
+        // It may be within a handler of its own.
+        popup_->deleteLater();
+        popup_ = nullptr;
     }
+}
+
+/// A tap outside an open list closes it and does nothing else.
+bool MainFrameWnd::eventFilter(QObject* watched, QEvent* event) {
+    const bool press =
+        event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick;
+    if (popup_ && press && watched->isWidgetType() && watched != popup_) {
+        ClosePopup();
+        return true;
+    }
+    return WindowBase::eventFilter(watched, event);
 }
 
 void MainFrameWnd::PaintPanels(QPainter& painter, const Rect& dirty) {
@@ -374,7 +421,7 @@ bool MainFrameWnd::DesktopKey(const QKeyEvent& event) {
 }
 
 void MainFrameWnd::keyPressEvent(QKeyEvent* event) {
-    if (DesktopKey(*event) || ChooserKeyPressed(*event)) {
+    if ((popup_ && popup_->Key(*event)) || DesktopKey(*event) || ChooserKeyPressed(*event)) {
         return;
     }
     if (const auto hardKey = HardKeyOf(event->key())) {

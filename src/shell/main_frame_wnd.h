@@ -3,7 +3,6 @@
 // The one top-level window: paints the body and the panels, loads the skin, and hands everything else to
 // CMainFrame.
 
-#include <QMenu>
 #include <QPointer>
 #include <array>
 #include <memory>
@@ -11,10 +10,13 @@
 #include "frontends/led_wnd.h"
 #include "frontends/panel_painter.h"
 #include "platform/clock.h"
+#include "platform/help_viewer.h"
+#include "platform/qt/html_window.h"
 #include "platform/qt/qt_wait_cursor.h"
 #include "platform/qt/view_settings.h"
 #include "platform/qt/window_base.h"
 #include "shell/colours.h"
+#include "shell/list_box_wnd.h"
 #include "shell/main_frame.h"
 #include "shell/module_wnd.h"
 #include "shell/skin.h"
@@ -24,20 +26,25 @@ namespace quorix {
 
 class MainFrameWnd : public WindowBase, public FrameHost, public ModuleSite {
   public:
-    /// sound may be null and outlives the window.
-    explicit MainFrameWnd(const std::filesystem::path& programFolder, SoundPlayer* sound = nullptr);
+    /// sound and helpViewer may be null; they outlive the window.
+    explicit MainFrameWnd(const std::filesystem::path& programFolder, SoundPlayer* sound = nullptr,
+                          HelpViewer* helpViewer = nullptr);
     ~MainFrameWnd() override;
 
     /// Reads preferences, skin and pictures and lays the window out. False when the skin cannot be read:
     /// start-up then ends; SkinPathTried names the file.
     bool Create();
     [[nodiscard]] std::filesystem::path SkinPathTried() const;
+    /// Shows the window before all others.
+    void Raise();
     [[nodiscard]] CMainFrame& Frame() override { return *frame_; }
     /// The live window of a module, or null.
     [[nodiscard]] ModuleWnd* Module(ModuleWindow window) const {
         return modules_[static_cast<std::size_t>(window)].get();
     }
     [[nodiscard]] ToolsPanelWnd& Chooser() { return *chooser_; }
+    /// The open popup list, or null.
+    [[nodiscard]] MorvaneListBoxWnd* Popup() const { return popup_; }
 
     void InvalidateAll() override;
     void InvalidateDisplay() override;
@@ -74,6 +81,7 @@ class MainFrameWnd : public WindowBase, public FrameHost, public ModuleSite {
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
     bool DesktopKey(const QKeyEvent& event);
@@ -103,11 +111,13 @@ class MainFrameWnd : public WindowBase, public FrameHost, public ModuleSite {
     double loadedDensity_ = 0;
     int loadedCategory_ = -1;
     SoundPlayer* sound_;
+    HelpViewer* helpViewer_;
+    std::unique_ptr<HtmlWindow> help_;
     std::unique_ptr<LedWnd> led_;
     std::unique_ptr<CMainFrame> frame_;
     std::array<std::unique_ptr<ModuleWnd>, kModuleWindowCount> modules_;
     std::unique_ptr<ToolsPanelWnd> chooser_;
-    QPointer<QMenu> popup_;
+    QPointer<MorvaneListBoxWnd> popup_;
     bool closed_ = false;
 };
 

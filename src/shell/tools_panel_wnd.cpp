@@ -29,9 +29,6 @@ constexpr int kFocusRadius = 4;
 constexpr int kTileLooks = 3;
 enum TileLook : int { TILE_PLAIN = 0, TILE_PRESSED = 1, TILE_CHOSEN = 2 };
 
-/// Fixed in the sheet's pictures of both skins.
-constexpr int kRuleInset = 8;
-
 QRect ToQRect(const Rect& rect) {
     return {rect.left, rect.top, rect.Width(), rect.Height()};
 }
@@ -187,8 +184,8 @@ void ToolsPanelWnd::PaintPageKey(QPainter& painter, const SheetPart& part) {
     }
     const Rect place = Pixels(part);
     const int size = pictures_.pageKeys.width() / 2;
-    const int column = part.kind == SheetPart::Kind::pageBack ? 0 : 1;
-    const int row = part == model_->Pressed() ? 1 : 0;
+    const int row = part.kind == SheetPart::Kind::pageBack ? 0 : 1;
+    const int column = part == model_->Pressed() ? 1 : 0;
     DrawPicture(painter, QPointF(place.left, place.top), pictures_.pageKeys,
                 QRect(column * size, row * size, size, size));
 }
