@@ -315,6 +315,12 @@ void MainFrameWnd::OpenPopupAt(PopupId id, const Rect& at, const std::vector<std
     qApp->installEventFilter(this);
 }
 
+void MainFrameWnd::PlaySound(const std::filesystem::path& wav) {
+    if (sound_ != nullptr && !wav.empty() && frame_->Settings().soundEnabled != 0) {
+        sound_->Play(wav);
+    }
+}
+
 void MainFrameWnd::ClosePopup() {
     if (popup_) {
         qApp->removeEventFilter(this);

@@ -70,6 +70,7 @@ class MainFrameWnd : public WindowBase, public FrameHost, public ModuleSite {
         PreparePictures();
         return panels_;
     }
+    void PlaySound(const std::filesystem::path& wav) override;
     void OpenPopupAt(PopupId id, const Rect& at, const std::vector<std::u16string>& items) override;
 
   protected:
