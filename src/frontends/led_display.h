@@ -64,6 +64,13 @@ class CLedDisplay : public ExpressionEditor {
     [[nodiscard]] bool TexButtonPressed() const { return texButtonPressed_; }
     [[nodiscard]] const std::u16string& PendingOperator() const { return pendingOperator_; }
 
+    /// The value on show: the last result, or that of the basic modes.
+    [[nodiscard]] const QComplex& ShownValue() const {
+        return settings_.IsStringMode() ? LastValue() : basicValue_;
+    }
+    /// In the basic modes: makes a value the current one, as the recall key does.
+    void EnterValue(const QComplex& value);
+
     /// While a macro is being edited a text key sets the result row to "macro editing ...".
     void SetMacroEditing(bool editing) { macroEditing_ = editing; }
 
