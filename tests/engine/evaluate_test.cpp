@@ -16,40 +16,38 @@ using EvaluateTest = EngineTest;
 TEST_F(EvaluateTest, FourFunctionExpressions) {
     const struct {
         std::string_view text, result;
-    } rows[] = {
-        {"1/3", "0.33333333333333333333333333333333"},
-        {"1+2*3-4/8", "6.5"},
-        {"(1+2)*(3-4)/8", "-0.375"},
-        {"-5+3", "-2"},
-        {"2-(-3)", "5"},
-        {"-(2+3)*4", "-20"},
-        {"0.1+0.2-0.3", "0"},
-        {"3 4", "3"},
-        {".5", "5"},
-        {"1.5e3", "1500"},
-        {"1e5000/1e4999", "10"},
-        {"pi-pi", "0"},
-        {"[VA]", "0"},
-        {"i*i", "-1"},
-        {"(1+i)*(1-i)", "2"},
-        {"1/i", "0-1i"},
-        {"1/0", "error -56"},
-        {"0/0", "error -56"},
-        {"1e5100", "error -56"},
-        {"1e9000", "error -56"},
-        {"0e5", "0"},
-        {"1+0e5", "error -56"},  // The underflow of the token stands when the sum looks.
-        {"0e5+1", "1"},          // The next value clears it.
-        {"1.2.3", "error -1"},
-        {"PIE", "error -1"},
-        {"1E-5", "error -1"},
-        {"2*-3", "error -1"},
-        {"1+", "error -1"},
-        {"(*)5", "error -1"},
-        {"", "error -1"},
-        {"nosuch(1)", "error -1"},
-        {"1e-64+1-1", "error -1"},
-    };
+    } rows[] = {{"1/3", "0.33333333333333333333333333333333"},
+                {"1+2*3-4/8", "6.5"},
+                {"(1+2)*(3-4)/8", "-0.375"},
+                {"-5+3", "-2"},
+                {"2-(-3)", "5"},
+                {"-(2+3)*4", "-20"},
+                {"0.1+0.2-0.3", "0"},
+                {"3 4", "3"},
+                {".5", "5"},
+                {"1.5e3", "1500"},
+                {"1e5000/1e4999", "10"},
+                {"pi-pi", "0"},
+                {"[VA]", "0"},
+                {"i*i", "-1"},
+                {"(1+i)*(1-i)", "2"},
+                {"1/i", "0-1i"},
+                {"1/0", "error -56"},
+                {"0/0", "error -56"},
+                {"1e5100", "error -56"},
+                {"1e9000", "error -56"},
+                {"0e5", "0"},
+                {"1+0e5", "error -56"},  // The underflow of the token stands when the sum looks.
+                {"0e5+1", "1"},          // The next value clears it.
+                {"1.2.3", "error -1"},
+                {"PIE", "error -1"},
+                {"1E-5", "error -1"},
+                {"2*-3", "error -1"},
+                {"1+", "error -1"},
+                {"(*)5", "error -1"},
+                {"", "error -1"},
+                {"nosuch(1)", "error -1"},
+                {"1e-64+1-1", "error -1"}};
     for (const auto& row : rows) EXPECT_EQ(Evaluate(row.text), row.result) << row.text;
 }
 
@@ -140,19 +138,17 @@ TEST_F(EvaluateTest, DoublesKnowNoStoredVariables) {
         std::u16string_view text;
         double re, im;
         std::int32_t error;
-    } rows[] = {
-        {u"1/4+x*2", 3.25, 0, 0},
-        {u"i*i", -1, 0, 0},
-        {u"(1+2*i)/(3-4*i)", -0.2, 0.4, 0},
-        {u"2*pi", 6.283185307179586, 0, 0},
-        {u"e", 2.718281828459045, 0, 0},
-        {u"-(x)", -1.5, 0, 0},
-        {u"[VA]", 0, 0, -1},
-        {u"1/0", 0, 0, -5},
-        {u"x/(x-1.5)", 0, 0, -5},
-        {u"1.2.3", 0, 0, -1},
-        {u"3 4", 3, 0, 0},
-    };
+    } rows[] = {{u"1/4+x*2", 3.25, 0, 0},
+                {u"i*i", -1, 0, 0},
+                {u"(1+2*i)/(3-4*i)", -0.2, 0.4, 0},
+                {u"2*pi", 6.283185307179586, 0, 0},
+                {u"e", 2.718281828459045, 0, 0},
+                {u"-(x)", -1.5, 0, 0},
+                {u"[VA]", 0, 0, -1},
+                {u"1/0", 0, 0, -5},
+                {u"x/(x-1.5)", 0, 0, -5},
+                {u"1.2.3", 0, 0, -1},
+                {u"3 4", 3, 0, 0}};
     for (const auto& row : rows) {
         ClearCalcError();
         const std::optional<DComplex> value = EvalToDouble(row.text, u"x", 1.5, 10);
@@ -204,14 +200,12 @@ TEST_F(EvaluateTest, SolveBecomesAProductWithTheInverse) {
     const struct {
         std::u16string_view text, rewritten;
         std::int32_t error;
-    } rows[] = {
-        {u"solve([VA],[VB])", u"inv([VA])*([VB])", 0},
-        {u"2*solve((a,b),c)+1", u"2*inv((a,b))*(c)", 0},  // What follows the call is lost.
-        {u"solve(solve(a,b),c)", u"inv(inv(a)*(b)", 0},
-        {u"solve(a)", u"solve(a)", -1},
-        {u"solve(a,b", u"solve(a,b", -1},
-        {u"det(a)", u"det(a)", 0},
-    };
+    } rows[] = {{u"solve([VA],[VB])", u"inv([VA])*([VB])", 0},
+                {u"2*solve((a,b),c)+1", u"2*inv((a,b))*(c)", 0},  // What follows the call is lost.
+                {u"solve(solve(a,b),c)", u"inv(inv(a)*(b)", 0},
+                {u"solve(a)", u"solve(a)", -1},
+                {u"solve(a,b", u"solve(a,b", -1},
+                {u"det(a)", u"det(a)", 0}};
     for (const auto& row : rows) {
         ClearCalcError();
         std::u16string text(row.text);
