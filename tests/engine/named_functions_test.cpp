@@ -144,6 +144,12 @@ TEST_F(NamedFunctions, StatisticsReadTheList) {
     EXPECT_LT(Distance("gm(X)", -2), 1e-14);
     SetList({3, 1, 3, 1});
     EXPECT_EQ(Evaluate("md(X)"), "3");  // the earliest on a tie
+    // Neither close values nor products beyond the doubles spoil the result.
+    SetList({1e9 + 1, 1e9 + 2, 1e9 + 3});
+    EXPECT_LT(Distance("ssd(X)", 1), 1e-15);
+    EXPECT_LT(Distance("avd(X)", 2.0 / 3), 1e-15);
+    SetList(std::vector<double>(60, 1e-9));
+    EXPECT_LT(Distance("gm(X)", 1e-9), 1e-22);
     SetList({-1, 4});
     EXPECT_EQ(Evaluate("gm(X)"), "error -4");
     SetList({7});
