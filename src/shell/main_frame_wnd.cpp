@@ -178,6 +178,10 @@ void MainFrameWnd::InvalidateDisplay() {
     if (led_) {
         led_->InvalidateAll();
     }
+    // It shows the line too.
+    if (ModuleWnd* const macros = Module(ModuleWindow::macros)) {
+        macros->InvalidateAll();
+    }
 }
 
 void MainFrameWnd::InvalidateCell(PanelCell cell) {
@@ -386,11 +390,36 @@ void MainFrameWnd::PaintPanels(QPainter& painter, const Rect& dirty) {
         }
         for (int index = 0; index < count; ++index) {
             const PanelCell cell{panel, index};
-            if (Overlap(CellRect(orientation, cell).Scaled(Scale()), dirty)) {
-                panels_.PaintCell(painter, orientation, Scale(), cell, frame_->Looks().LooksDown(cell));
+            if (!Overlap(CellRect(orientation, cell).Scaled(Scale()), dirty)) {
+                continue;
+            }
+            const bool down = frame_->Looks().LooksDown(cell);
+            if (const MacroPadLabel* const label = MacroLabelOf(cell)) {
+                panels_.PaintLowerCellAs(painter, orientation, Scale(), index, down, label->labelOf,
+                                         QString::fromUtf16(label->text));
+            } else {
+                panels_.PaintCell(painter, orientation, Scale(), cell, down);
             }
         }
     }
+}
+
+/// What stands on a key of the lower panel while a macro is being edited; null for its own label.
+const MainFrameWnd::MacroPadLabel* MainFrameWnd::MacroLabelOf(PanelCell cell) const {
+    static constexpr MacroPadLabel kLabels[] = {{KEY_DIVIDE, 0, u"keys"},
+                                                {KEY_MULTIPLY, 0, u"αβγ"},
+                                                {KEY_STORE, 0, u"test"},
+                                                {KEY_RECALL, KEY_MULTIPLY, u""},
+                                                {KEY_EQUALS, KEY_DIVIDE, u""}};
+    if (cell.panel == Panel::lower && frame_->CurrentCategory() == CATEGORY_MACROS &&
+        frame_->MacroEditing()) {
+        for (const MacroPadLabel& label : kLabels) {
+            if (label.cell == cell.cell) {
+                return &label;
+            }
+        }
+    }
+    return nullptr;
 }
 
 /// The wordmark stands where the converters show no display.

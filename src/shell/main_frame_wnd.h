@@ -97,6 +97,12 @@ class MainFrameWnd : public WindowBase, public FrameHost, public ModuleSite {
     [[nodiscard]] Rect ClientPixels() const;
     bool ChooserKeyPressed(const QKeyEvent& event);
     void PaintPanels(QPainter& painter, const Rect& dirty);
+    struct MacroPadLabel {
+        int cell;
+        int labelOf;
+        const char16_t* text;
+    };
+    [[nodiscard]] const MacroPadLabel* MacroLabelOf(PanelCell cell) const;
     void PaintLogo(QPainter& painter);
     void OpenPreferences();
     void OpenHelp();
