@@ -135,8 +135,7 @@ void MacroWnd::LayOut() {
     letters_->LayOut(layout.letters);
     edit_->LayOut(layout.edit);
     if (keyboard_) {
-        const Rect panel = quorix::LayoutOf(Site().Frame().CurrentOrientation()).lowerPanel;
-        keyboard_->LayOut({panel.left, panel.top});
+        keyboard_->LayOut(quorix::LayoutOf(Site().Frame().CurrentOrientation()).lowerPanel);
     }
 }
 
@@ -190,8 +189,7 @@ void MacroWnd::ToggleLetters() {
         return;
     }
     keyboard_ = new MorvaneCalNumberKeyboardWnd(frame_, *this, Site(), PadKind::letters);
-    const Rect panel = quorix::LayoutOf(Site().Frame().CurrentOrientation()).lowerPanel;
-    keyboard_->LayOut({panel.left, panel.top});
+    keyboard_->LayOut(quorix::LayoutOf(Site().Frame().CurrentOrientation()).lowerPanel);
     keyboard_->show();
     if (!remark_->hasFocus()) {
         name_->setFocus();
