@@ -5,7 +5,7 @@
 #include <memory>
 
 #include "shell/module_wnd.h"
-#include "shell/morvane_button.h"
+#include "shell/morvane_button_wnd.h"
 #include "shell/number_keyboard_wnd.h"
 
 namespace quorix {

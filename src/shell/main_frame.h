@@ -162,6 +162,9 @@ class CMainFrame {
     void KeySound();
     /// The list of names that opens while a letter is typed.
     [[nodiscard]] TypeAhead& Names() { return *names_; }
+    /// The spoken name of a cell as it stands now; empty for a dead one. Presses a cell as a short tap does.
+    [[nodiscard]] std::u16string_view SpokenName(PanelCell cell) const;
+    void PressCell(PanelCell cell);
     /// Takes back the last edit of the line, or does it again.
     void Undo();
     void Redo();

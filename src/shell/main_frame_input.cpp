@@ -1,6 +1,7 @@
 // Presses, keys and timers of the main frame.
 
 #include "frontends/base_conversion.h"
+#include "frontends/spoken_names.h"
 #include "shell/main_frame.h"
 
 namespace quorix {
@@ -154,6 +155,23 @@ void CMainFrame::ButtonUp(Point point) {
     } else {
         UpperUp(pressed.cell);
     }
+}
+
+std::u16string_view CMainFrame::SpokenName(PanelCell cell) const {
+    const PageGround ground = EntryOf(currentCategory_).ground;
+    if (ground == PageGround::window || (cell.panel == Panel::upper && ground != PageGround::panels)) {
+        return {};
+    }
+    return SpokenNameOfCell(cell, currentCategory_, IsOrange(), display_->GetBase());
+}
+
+void CMainFrame::PressCell(PanelCell cell) {
+    const Point centre = CentreOf(CellRect(CurrentOrientation(), cell).Scaled(Scale()));
+    ButtonDown(centre);
+    // A short tap: what a held key would have sent is forgotten.
+    KillTimers();
+    pressedKey_ = KEY_NONE;
+    ButtonUp(centre);
 }
 
 void CMainFrame::MouseMove(Point point) {

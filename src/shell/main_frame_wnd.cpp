@@ -63,6 +63,8 @@ MainFrameWnd::MainFrameWnd(const std::filesystem::path& programFolder, SoundPlay
       helpViewer_(helpViewer) {
     setWindowTitle(QStringLiteral("Quorix"));
     setFocusPolicy(Qt::StrongFocus);
+    setAccessibleName(windowTitle());
+    MakeCellsAccessible();
 }
 
 MainFrameWnd::~MainFrameWnd() = default;
@@ -352,6 +354,33 @@ void MainFrameWnd::OpenPopupAt(PopupId id, const Rect& at, const std::vector<std
     });
     popup_->Open(at, items, -1);
     qApp->installEventFilter(this);
+}
+
+namespace {
+
+/// The upper panel's cells, then the lower one's.
+constexpr PanelCell CellOfIndex(int index) {
+    return index < kUpperCellCount ? PanelCell{Panel::upper, index}
+                                   : PanelCell{Panel::lower, index - kUpperCellCount};
+}
+
+}  // namespace
+
+QString MainFrameWnd::AccessibleCellName(int index) const {
+    const std::u16string_view name = frame_->SpokenName(CellOfIndex(index));
+    return QString::fromUtf16(name.data(), static_cast<qsizetype>(name.size()));
+}
+
+QRect MainFrameWnd::AccessibleCellRect(int index) const {
+    return OnDesktop(CellRect(frame_->CurrentOrientation(), CellOfIndex(index)).Scaled(Scale()));
+}
+
+bool MainFrameWnd::AccessibleCellDown(int index) const {
+    return frame_->Looks().LooksDown(CellOfIndex(index));
+}
+
+void MainFrameWnd::PressAccessibleCell(int index) {
+    frame_->PressCell(CellOfIndex(index));
 }
 
 void MainFrameWnd::PlaySound(const std::filesystem::path& wav) {

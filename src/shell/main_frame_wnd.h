@@ -13,6 +13,7 @@
 #include "frontends/type_ahead_wnd.h"
 #include "platform/clock.h"
 #include "platform/help_viewer.h"
+#include "platform/qt/accessible_cells.h"
 #include "platform/qt/html_window.h"
 #include "platform/qt/qt_wait_cursor.h"
 #include "platform/qt/view_settings.h"
@@ -26,7 +27,7 @@
 
 namespace quorix {
 
-class MainFrameWnd : public WindowBase, public FrameHost, public ModuleSite {
+class MainFrameWnd : public WindowBase, public FrameHost, public ModuleSite, public CellSource {
   public:
     /// sound and helpViewer may be null; they outlive the window.
     explicit MainFrameWnd(const std::filesystem::path& programFolder, SoundPlayer* sound = nullptr,
@@ -75,6 +76,12 @@ class MainFrameWnd : public WindowBase, public FrameHost, public ModuleSite {
         PreparePictures();
         return panels_;
     }
+    [[nodiscard]] int AccessibleCellCount() const override { return kUpperCellCount + kLowerCellCount; }
+    [[nodiscard]] QString AccessibleCellName(int index) const override;
+    [[nodiscard]] QRect AccessibleCellRect(int index) const override;
+    [[nodiscard]] bool AccessibleCellDown(int index) const override;
+    void PressAccessibleCell(int index) override;
+
     void PlaySound(const std::filesystem::path& wav) override;
     void OpenPopupAt(PopupId id, const Rect& at, const std::vector<std::u16string>& items) override;
 

@@ -199,6 +199,37 @@ void ToolsPanelWnd::PaintFocus(QPainter& painter) {
     painter.setRenderHint(QPainter::Antialiasing, false);
 }
 
+int ToolsPanelWnd::AccessibleCellCount() const {
+    return model_ ? static_cast<int>(model_->Parts().size()) : 0;
+}
+
+QString ToolsPanelWnd::AccessibleCellName(int index) const {
+    const SheetPart part = model_->Parts()[static_cast<std::size_t>(index)];
+    switch (part.kind) {
+        case SheetPart::Kind::tile: return ToQString(kCategoryNames[static_cast<std::size_t>(part.index)]);
+        case SheetPart::Kind::tool: return ToQString(kToolNames[part.index]);
+        case SheetPart::Kind::pageBack: return QStringLiteral("previous page");
+        default: return QStringLiteral("next page");
+    }
+}
+
+QRect ToolsPanelWnd::AccessibleCellRect(int index) const {
+    return OnDesktop(Pixels(model_->Parts()[static_cast<std::size_t>(index)]));
+}
+
+bool ToolsPanelWnd::AccessibleCellDown(int index) const {
+    const SheetPart part = model_->Parts()[static_cast<std::size_t>(index)];
+    return part == model_->Pressed() ||
+           (part.kind == SheetPart::Kind::tile && part.index == model_->Current());
+}
+
+void ToolsPanelWnd::PressAccessibleCell(int index) {
+    const Rect rect = model_->RectOf(model_->Parts()[static_cast<std::size_t>(index)]);
+    const Point centre{(rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2};
+    model_->PenDown(centre);
+    Take(model_->PenUp(centre));
+}
+
 void ToolsPanelWnd::OnPenDown(Point at) {
     model_->PenDown(Units(at));
     InvalidateAll();

@@ -122,6 +122,10 @@ void WindowBase::ApplyPlace() {
     setGeometry(left, top, Zoomed(place_.right, zoom_) - left, Zoomed(place_.bottom, zoom_) - top);
 }
 
+QRect WindowBase::OnDesktop(const Rect& devicePixels) const {
+    return Outward(devicePixels, zoom_);
+}
+
 void WindowBase::Invalidate(const Rect& devicePixels) {
     if (IsEmpty(devicePixels)) {
         return;

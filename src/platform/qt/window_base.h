@@ -3,6 +3,7 @@
 // The base of every window of ours.
 
 #include <QImage>
+#include <QRect>
 #include <QWidget>
 #include <cstdint>
 #include <functional>
@@ -47,6 +48,9 @@ class WindowBase : public QWidget, public Timers {
     /// Place within the parent (for a top-level window: size alone), in device pixels.
     void SetPlace(const Rect& devicePixels);
     [[nodiscard]] const Rect& Place() const { return place_; }
+
+    /// A rectangle of device pixels in the window's own coordinates, desktop points.
+    [[nodiscard]] QRect OnDesktop(const Rect& devicePixels) const;
 
     /// Marks a part to be painted anew, in device pixels.
     void Invalidate(const Rect& devicePixels);
