@@ -62,11 +62,10 @@ void PanelPainter::PaintLandscapeWord(QPainter& painter, const Rect& rect, int s
     painter.drawText(ToQRect(rect), Qt::AlignCenter | Qt::TextSingleLine, QStringLiteral("Landscape"));
 }
 
-const QImage& PanelPainter::CapPicture(PanelCell cell, QSize size, bool down, int scale) {
-    const int row = CapRowOf(cell);
-    QImage& cap = caps_[{cell.panel, row, down, size.width(), size.height()}];
+const QImage& PanelPainter::CapPicture(Panel panel, int row, QSize size, bool down, int scale) {
+    QImage& cap = caps_[{panel, row, down, size.width(), size.height()}];
     if (cap.isNull()) {
-        const CapStrip& strip = cell.panel == Panel::upper ? smallCaps_ : largeCaps_;
+        const CapStrip& strip = panel == Panel::upper ? smallCaps_ : largeCaps_;
         const double ratio = strip.picture.devicePixelRatio();
         cap = StretchCap(strip.Cut(row, down), (QSizeF(size) * ratio).toSize(),
                          static_cast<int>(std::lround(kCapCorner * scale * ratio)));
@@ -82,13 +81,19 @@ PanelPainter::Label PanelPainter::LabelOf(PanelCell cell) const {
                                           : Label{&generalLabels_, cell.cell - CELL_FIRST_GENERAL};
 }
 
+void PanelPainter::PaintCap(QPainter& painter, Panel panel, int row, const Rect& place, bool down,
+                            int scale) {
+    if ((panel == Panel::upper ? smallCaps_ : largeCaps_).picture.isNull()) {
+        return;
+    }
+    const QImage& cap = CapPicture(panel, row, ToQRect(place).size(), down, scale);
+    DrawPicture(painter, ToQRect(place).topLeft(), cap, cap.rect());
+}
+
 void PanelPainter::PaintCell(QPainter& painter, Orientation orientation, int scale, PanelCell cell,
                              bool down) {
     const QRect place = ToQRect(CellRect(orientation, cell).Scaled(scale));
-    if (!(cell.panel == Panel::upper ? smallCaps_ : largeCaps_).picture.isNull()) {
-        const QImage& cap = CapPicture(cell, place.size(), down, scale);
-        DrawPicture(painter, place.topLeft(), cap, cap.rect());
-    }
+    PaintCap(painter, cell.panel, CapRowOf(cell), CellRect(orientation, cell).Scaled(scale), down, scale);
     const Label label = LabelOf(cell);
     if (label.grid->picture.isNull()) {
         return;

@@ -43,6 +43,9 @@ class PanelPainter {
 
     /// One key: its cap and its label. A pressed label stands two units lower.
     void PaintCell(QPainter& painter, Orientation orientation, int scale, PanelCell cell, bool down);
+    /// A cap of a row (UpperCapRow or LowerCapRow) at a place in device pixels, for windows with keys of
+    /// their own.
+    void PaintCap(QPainter& painter, Panel panel, int row, const Rect& place, bool down, int scale);
     void PaintPanel(QPainter& painter, Orientation orientation, int scale, Panel panel,
                     const PanelLooks& looks);
 
@@ -66,7 +69,7 @@ class PanelPainter {
         int index;
     };
 
-    const QImage& CapPicture(PanelCell cell, QSize size, bool down, int scale);
+    const QImage& CapPicture(Panel panel, int row, QSize size, bool down, int scale);
     [[nodiscard]] Label LabelOf(PanelCell cell) const;
 
     CapStrip smallCaps_;

@@ -22,6 +22,17 @@ constexpr std::array<std::string_view, kSkinColourCount> kColourKeys = {
     "EquationSolver_Border0",
     "EquationSolver_Border1",
     "EquationSolver_Border2",
+    "Sheet",
+    "SheetInk",
+    "SheetLine",
+    "SheetAccent",
+    "Chosen",
+    "ChosenInk",
+    "GraphSurface",
+    "GraphCurve0",
+    "GraphCurve1",
+    "GraphCurve2",
+    "CrossHair",
 };
 static_assert(!kColourKeys.back().empty(), "a key for each colour");
 

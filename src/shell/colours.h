@@ -22,6 +22,17 @@ enum class SkinColour : std::uint8_t {
     solverBorder0,
     solverBorder1,
     solverBorder2,
+    sheet,        ///< Ground of the chooser and of lists; with the colours below an addition of ours.
+    sheetInk,     ///< Text on the sheet.
+    sheetLine,    ///< Hair lines on the sheet.
+    sheetAccent,  ///< What is to be seen first on the sheet.
+    chosen,       ///< Ground of the chosen row or tile.
+    chosenInk,    ///< Text on it.
+    graphSurface,
+    graphCurve0,
+    graphCurve1,
+    graphCurve2,
+    crossHair,
     count
 };
 
@@ -43,7 +54,27 @@ class SkinColours {
 
   private:
     std::array<ColorRef, kSkinColourCount> colours_ = {
-        0x866651, 0xAA8570, 0xB08B76, 0xA87E65, 0xA18877, 0x866651, 0x976341, 11963251, 10909019, 11309948,
+        0x866651,
+        0xAA8570,
+        0xB08B76,
+        0xA87E65,
+        0xA18877,
+        0x866651,
+        0x976341,
+        11963251,
+        10909019,
+        11309948,
+        MakeColor(0xF3, 0xF5, 0xF9),
+        MakeColor(0x24, 0x30, 0x4A),
+        MakeColor(0xC4, 0xCD, 0xDC),
+        MakeColor(0xCF, 0x6E, 0x08),
+        MakeColor(0x2F, 0x62, 0xB8),
+        MakeColor(0xFF, 0xFF, 0xFF),
+        MakeColor(0xFB, 0xFC, 0xFE),
+        MakeColor(0x0B, 0x5C, 0xAD),
+        MakeColor(0xC2, 0x41, 0x0C),
+        MakeColor(0x3B, 0x0A, 0x2A),
+        MakeColor(0x7A, 0x1F, 0xE0),
     };
 };
 

@@ -2,18 +2,36 @@
 
 #include <algorithm>
 
+#include "engine/calc_context.h"
 #include "frontends/base_conversion.h"
 #include "platform/files.h"
-#include "shell/category_registry.h"
+#include "platform/path.h"
 
 namespace quorix {
+
+namespace {
+
+/// Where a macro under edit can be taken: the pages whose keys it is written with, its own, and Formulas.
+constexpr bool ServesMacroEditing(int category) {
+    return category == CATEGORY_ARITHMETIC || category == CATEGORY_TRIGONOMETRY ||
+           category == CATEGORY_MACROS || category == CATEGORY_FORMULAS;
+}
+
+/// Pages that are painted anew when they are chosen a second time.
+constexpr bool RepaintsWhenChosenAgain(int category) {
+    return category >= CATEGORY_EQUATION_SOLVER && category <= CATEGORY_DATE_TIME;
+}
+
+}  // namespace
 
 CMainFrame::CMainFrame(const Surroundings& surroundings, const DeviceScreen& screen)
     : folder_(surroundings.folder),
       host_(surroundings.host),
       timers_(surroundings.frameTimers),
+      sound_(surroundings.sound),
       screen_(screen),
-      displayFile_(folder_ / kDisplayFileName) {
+      displayFile_(folder_ / kDisplayFileName),
+      macroFiles_(folder_) {
     RemoveAbandonedTemporaries(folder_);
     LoadPreferences(folder_ / kPreferencesFileName, surroundings.clock, preferences_);
     display_ =
@@ -23,37 +41,90 @@ CMainFrame::CMainFrame(const Surroundings& surroundings, const DeviceScreen& scr
                                                 .hideToolTip = {},
                                                 .showToolTip = {}});
     displayFile_.Restore(*display_);
-    equals_ = std::make_unique<EqualsPath>(*display_, surroundings.waitCursor);
-    StartIn(preferences_.lastCategory);
+    macroFiles_.Load(macros_);
+    equals_ = std::make_unique<EqualsPath>(
+        *display_, surroundings.waitCursor,
+        EqualsPath::Hooks{
+            .expandMacros = [this](std::u16string& line) { return ExpandMacros(macros_, line); },
+            .storeMatrix = {}});
+    previousInputMode_ = preferences_.calculator.inputMode;
 }
 
 CMainFrame::~CMainFrame() = default;
 
-bool CMainFrame::CategoryAvailable(int category) {
-    return category >= 0 && category < kCategoryCount &&
-           kCategoryAvailable[static_cast<std::size_t>(category)];
-}
-
-void CMainFrame::StartIn(int category) {
-    previousInputMode_ = preferences_.calculator.inputMode;
-    EnterCategory(CategoryAvailable(category) ? category : int{CATEGORY_ARITHMETIC});
-    CoupleInputMode(CATEGORY_ARITHMETIC, currentCategory_);
-    if (!preferences_.calculator.IsStringMode()) {
+void CMainFrame::Start() {
+    const int category = preferences_.lastCategory;
+    EnterCategory(category);
+    CoupleInputMode(CATEGORY_ARITHMETIC, category);
+    if (!preferences_.calculator.IsStringMode() && category != CATEGORY_MACROS) {
         // The basic machine starts from 0.
         display_->Key(KEY_CLEAR);
     }
 }
 
 void CMainFrame::EnterCategory(int category) {
+    const int previous = currentCategory_;
+    keyboardTarget_ = ModuleWindow::none;
     EndPress();
     currentCategory_ = category;
-    display_->SetCategory(category);
+    if (!macroEditing_) {
+        display_->SetCategory(category);
+    }
+    host_.ClosePopup();
+    CloseChooser();
     host_.CategoryChanged(category);
+    SwitchWindows(previous, category);
     host_.InvalidateAll();
 }
 
+void CMainFrame::LeaveWindow(ModuleWindow window) {
+    if (!ModuleLive(window)) {
+        return;
+    }
+    if (macroEditing_ && window == ModuleWindow::macros) {
+        host_.ShowModule(window, false);
+        return;
+    }
+    host_.DestroyModule(window);
+    liveModules_[static_cast<std::size_t>(window)] = false;
+}
+
+void CMainFrame::SwitchWindows(int from, int to) {
+    const CategoryEntry& entry = EntryOf(to);
+    if (const ModuleWindow old = EntryOf(from).window; old != ModuleWindow::none && old != entry.window) {
+        LeaveWindow(old);
+    }
+    if (entry.window == ModuleWindow::none) {
+        return;
+    }
+    if (ModuleLive(entry.window)) {
+        host_.ShowModule(entry.window, true);
+    } else {
+        host_.CreateModule(to);
+        liveModules_[static_cast<std::size_t>(entry.window)] = true;
+    }
+    if (entry.window == ModuleWindow::converter) {
+        host_.SendToModule(entry.window, MSG_SET_MODE, entry.mode, 0);
+    }
+    if (entry.keys == KeyRoute::characters) {
+        keyboardTarget_ = entry.window;
+        // What the display left pending is no part of the numbers typed here.
+        ClearCalcError();
+    }
+}
+
 void CMainFrame::SwitchCategory(int category) {
-    if (category == currentCategory_ || !CategoryAvailable(category)) {
+    if (category < 0 || category >= kCategoryCount) {
+        return;
+    }
+    if (category == currentCategory_) {
+        if (RepaintsWhenChosenAgain(category)) {
+            host_.InvalidateAll();
+        }
+        CloseChooser();
+        return;
+    }
+    if (macroEditing_ && !ServesMacroEditing(category)) {
         return;
     }
     const int previous = currentCategory_;
@@ -78,6 +149,10 @@ void CMainFrame::CoupleInputMode(int from, int to) {
 }
 
 void CMainFrame::StepCategory(int step) {
+    if (macroEditing_) {
+        StepWhileEditing(step);
+        return;
+    }
     const auto& order = preferences_.categoryOrder;
     const auto* const place =
         std::find(order.begin(), order.end(), static_cast<std::uint8_t>(currentCategory_));
@@ -85,15 +160,97 @@ void CMainFrame::StepCategory(int step) {
     for (int tried = 0; tried < kCategoryCount; ++tried) {
         index = (index + step + kCategoryCount) % kCategoryCount;
         const std::uint8_t category = order[static_cast<std::size_t>(index)];
-        if (preferences_.categoryEnabled[category] != 0 && CategoryAvailable(category)) {
+        if (preferences_.categoryEnabled[category] != 0) {
             SwitchCategory(category);
             return;
         }
     }
 }
 
+/// Up goes from the later pages to Trigonometry, Arithmetic and Formulas; down goes the other way round.
+void CMainFrame::StepWhileEditing(int step) {
+    if (step < 0) {
+        SwitchCategory(currentCategory_ > CATEGORY_TRIGONOMETRY    ? CATEGORY_TRIGONOMETRY
+                       : currentCategory_ == CATEGORY_TRIGONOMETRY ? CATEGORY_ARITHMETIC
+                                                                   : CATEGORY_FORMULAS);
+    } else {
+        SwitchCategory(currentCategory_ > CATEGORY_TRIGONOMETRY    ? CATEGORY_ARITHMETIC
+                       : currentCategory_ == CATEGORY_TRIGONOMETRY ? CATEGORY_FORMULAS
+                                                                   : CATEGORY_TRIGONOMETRY);
+    }
+}
+
+void CMainFrame::ToggleChooser() {
+    if (chooserOpen_) {
+        CloseChooser();
+        return;
+    }
+    host_.ClosePopup();
+    chooserOpen_ = true;
+    looks_.LatchChooser(true);
+    host_.InvalidateCell({Panel::upper, CELL_CHOOSER});
+    host_.ShowChooser(true);
+}
+
+void CMainFrame::CloseChooser() {
+    if (chooserOpen_) {
+        chooserOpen_ = false;
+        looks_.LatchChooser(false);
+        host_.InvalidateCell({Panel::upper, CELL_CHOOSER});
+        host_.ShowChooser(false);
+    }
+}
+
+void CMainFrame::ChooseTool(Tool tool) {
+    CloseChooser();
+    host_.RunTool(tool);
+}
+
+Preferences CMainFrame::UserSettings() const {
+    Preferences settings = preferences_;
+    if (currentCategory_ > kLastBasicModeCategory) {
+        settings.calculator.inputMode = previousInputMode_;
+    }
+    return settings;
+}
+
+void CMainFrame::ApplyPreferences(const Preferences& changed) {
+    const bool skinChanged = changed.skinFile != preferences_.skinFile;
+    const std::u16string mode = changed.calculator.inputMode;
+    const bool modeChanged =
+        mode !=
+        (currentCategory_ > kLastBasicModeCategory ? previousInputMode_ : preferences_.calculator.inputMode);
+    preferences_ = changed;
+    if (currentCategory_ > kLastBasicModeCategory) {
+        // The chosen mode waits for the pages that know it.
+        previousInputMode_ = mode;
+        preferences_.calculator.inputMode = kModeString;
+    } else if (modeChanged) {
+        // What one machine has on show means nothing to the other.
+        display_->Key(KEY_CLEAR);
+    }
+    if (skinChanged) {
+        host_.ReloadSkin();
+    }
+    host_.InvalidateAll();
+}
+
+void CMainFrame::SetMacroEditing(bool editing) {
+    macroEditing_ = editing;
+    display_->SetMacroEditing(editing);
+    host_.InvalidateAll();
+}
+
+void CMainFrame::KeySound() {
+    if (sound_ != nullptr && preferences_.soundEnabled != 0 && !preferences_.soundFile.empty()) {
+        sound_->Play(ResolvePath(folder_, u"Sounds\\" + preferences_.soundFile));
+    }
+}
+
 void CMainFrame::SetScreen(const DeviceScreen& screen) {
     EndPress();
+    CloseChooser();
+    host_.ClosePopup();
     screen_ = screen;
     host_.InvalidateAll();
 }
@@ -112,14 +269,12 @@ void CMainFrame::OnLedMessage(LedMessage message) {
 }
 
 bool CMainFrame::SaveState() {
-    Preferences saved = preferences_;
+    const bool macrosWritten = macroFiles_.Save(macros_);
+    Preferences saved = UserSettings();
     saved.lastCategory = static_cast<std::uint8_t>(currentCategory_);
-    if (currentCategory_ > kLastBasicModeCategory) {
-        saved.calculator.inputMode = previousInputMode_;
-    }
     const bool preferencesWritten = SavePreferences(folder_ / kPreferencesFileName, saved);
     const bool displayWritten = displayFile_.Save(*display_);
-    return preferencesWritten && displayWritten;
+    return macrosWritten && preferencesWritten && displayWritten;
 }
 
 }  // namespace quorix

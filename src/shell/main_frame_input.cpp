@@ -30,6 +30,28 @@ constexpr FunctionItem kFunctionItems[] = {
     {u"Fibonaci", KEY_FIBONACCI},
 };
 
+/// The windows that own lists, to which a choice is handed on.
+constexpr std::pair<PopupId, ModuleWindow> kPopupOwners[] = {
+    {POPUP_UNITS, ModuleWindow::converter},          {POPUP_UNIT_CATEGORIES, ModuleWindow::converter},
+    {POPUP_CURRENCIES, ModuleWindow::converter},     {POPUP_MACRO_NAMES, ModuleWindow::macros},
+    {POPUP_MACRO_LETTERS, ModuleWindow::macros},     {POPUP_MATRICES, ModuleWindow::matrix},
+    {POPUP_STATISTICS, ModuleWindow::statistics},    {POPUP_PERSONS, ModuleWindow::biorythm},
+    {POPUP_EQUATIONS, ModuleWindow::equationSolver},
+};
+
+constexpr ModuleWindow OwnerOf(PopupId id) {
+    for (const auto& [list, owner] : kPopupOwners) {
+        if (list == id) {
+            return owner;
+        }
+    }
+    return ModuleWindow::none;
+}
+
+/// Typed characters whose key sounds in a window that takes characters: Backspace, Tab, ".", "-", Enter, "=",
+/// Esc, besides the digits.
+constexpr std::u16string_view kSoundingCharacters = u"\b\t.-\r=\u001B";
+
 constexpr Point CentreOf(const Rect& rect) {
     return {(rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2};
 }
@@ -63,7 +85,9 @@ void CMainFrame::EndPress() {
 void CMainFrame::ButtonDown(Point point) {
     EndPress();
     const PanelCell cell = CellAt(CurrentOrientation(), Scale(), point);
-    if (cell.panel == Panel::none) {
+    const PageGround ground = EntryOf(currentCategory_).ground;
+    if (cell.panel == Panel::none || ground == PageGround::window ||
+        (cell.panel == Panel::upper && ground != PageGround::panels)) {
         return;
     }
     savedPoint_ = point;
@@ -112,6 +136,7 @@ void CMainFrame::ButtonUp(Point point) {
     if (pressed.panel == Panel::lower) {
         LowerUp(pressed.cell);
     } else if (key != KEY_NONE) {
+        KeySound();
         display_->Key(key);
     } else {
         UpperUp(pressed.cell);
@@ -131,6 +156,9 @@ void CMainFrame::MouseMove(Point point) {
 
 void CMainFrame::UpperUp(int cell) {
     const PanelAction action = UpperAction(currentCategory_, cell, IsOrange(), display_->GetBase());
+    if (action != PanelAction{}) {
+        KeySound();
+    }
     if (action.command != PanelCommand::none) {
         RunCommand(action.command, {Panel::upper, cell});
     } else if (action.key != KEY_NONE) {
@@ -147,9 +175,19 @@ void CMainFrame::SendLowerKey(std::int32_t code) {
 }
 
 void CMainFrame::LowerUp(std::int32_t code) {
-    if (!TakesKeys()) {
+    if (keyboardTarget_ != ModuleWindow::none) {
+        KeySound();
+        host_.SendToModule(keyboardTarget_, MSG_PAD_CHARACTER, PadCharacterOf(code), 0);
         return;
     }
+    if (!TakesKeys()) {
+        if (const CategoryEntry& entry = EntryOf(currentCategory_); entry.keys == KeyRoute::focus) {
+            KeySound();
+            host_.SendToModule(entry.window, MSG_PAD_KEY, code, 0);
+        }
+        return;
+    }
+    KeySound();
     if (IsOrange() && code == KEY_STORE) {
         display_->Key(KEY_NEXT_MEMORY);
     } else if (IsOrange() && code == KEY_RECALL) {
@@ -162,29 +200,48 @@ void CMainFrame::LowerUp(std::int32_t code) {
 }
 
 void CMainFrame::RunCommand(PanelCommand command, PanelCell cell) {
-    std::vector<std::u16string_view> items;
     switch (command) {
-        case PanelCommand::chooser:
-            items.assign(kCategoryNames.begin(), kCategoryNames.end());
-            host_.OpenPopup(POPUP_CATEGORIES, cell, std::move(items));
-            break;
-        case PanelCommand::functionList:
-            for (const FunctionItem& item : kFunctionItems) {
-                items.push_back(item.text);
-            }
-            host_.OpenPopup(POPUP_FUNCTIONS, cell, std::move(items));
-            break;
+        case PanelCommand::none: break;
+        case PanelCommand::chooser: ToggleChooser(); break;
+        case PanelCommand::functionList: OpenFunctionList(cell); break;
         case PanelCommand::cycleBase: CycleBase(*display_); break;
         case PanelCommand::cycleWordSize: CycleWordSize(*display_); break;
-        default: break;  // the modules' own commands arrive with their windows
+        case PanelCommand::statisticsKeyboard: host_.ShowMissing(u"Statistics data"); break;
+        case PanelCommand::statisticsSummary: host_.ShowMissing(u"Statistics summary"); break;
+        case PanelCommand::editMatrix: host_.ShowMissing(u"Edit Matrix"); break;
+        case PanelCommand::timeValueDialog: host_.ShowMissing(u"Time value of money"); break;
+        case PanelCommand::loanCalculator: host_.ShowMissing(u"Loan calculator"); break;
+        case PanelCommand::mortgageCalculator: host_.ShowMissing(u"Mortgage calculator"); break;
     }
 }
 
+void CMainFrame::OpenFunctionList(PanelCell cell) {
+    std::vector<std::u16string> items;
+    for (const FunctionItem& item : kFunctionItems) {
+        items.emplace_back(item.text);
+    }
+    for (const Macro& macro : macros_.All()) {
+        items.push_back(CallTextOf(macro) + (macro.remark.empty() ? u"" : u"  " + macro.remark));
+    }
+    host_.OpenPopup(POPUP_FUNCTIONS, cell, items);
+}
+
 void CMainFrame::PopupChosen(PopupId id, int item) {
-    if (id == POPUP_CATEGORIES) {
-        SwitchCategory(item);
-    } else if (item >= 0 && static_cast<std::size_t>(item) < std::size(kFunctionItems)) {
+    const ModuleWindow owner = OwnerOf(id);
+    if (owner != ModuleWindow::none) {
+        host_.SendToModule(owner, MSG_POPUP_CHOSEN, item, id);
+    } else if (id == POPUP_FUNCTIONS && item >= 0) {
+        ChooseFunction(static_cast<std::size_t>(item));
+    }
+    host_.ClosePopup();
+}
+
+void CMainFrame::ChooseFunction(std::size_t item) {
+    if (item < std::size(kFunctionItems)) {
         display_->Key(kFunctionItems[item].key);
+    } else if (item -= std::size(kFunctionItems); item < macros_.All().size()) {
+        const CallTokens call = CallTokensOf(macros_.All()[item]);
+        display_->InsertTokens(call.text, call.lengths);
     }
 }
 
@@ -210,6 +267,9 @@ void CMainFrame::OnTimer(int id) {
 }
 
 void CMainFrame::KeyDown(HardKey key) {
+    if (keyboardTarget_ != ModuleWindow::none) {
+        return;
+    }
     switch (key) {
         case HardKey::left: display_->Key(KEY_LEFT); break;
         case HardKey::right: display_->Key(KEY_RIGHT); break;
@@ -219,25 +279,45 @@ void CMainFrame::KeyDown(HardKey key) {
 }
 
 void CMainFrame::KeyUp(HardKey key) {
-    if (preferences_.hardKeyScrolling == 0) {
-        return;
-    }
-    if (key == HardKey::up) {
-        StepCategory(-1);
-    } else if (key == HardKey::down) {
-        StepCategory(1);
+    switch (key) {
+        case HardKey::up:
+        case HardKey::down:
+            if (preferences_.hardKeyScrolling != 0) {
+                KeySound();
+                StepCategory(key == HardKey::up ? -1 : 1);
+            }
+            break;
+        case HardKey::remove:
+            if (keyboardTarget_ != ModuleWindow::none) {
+                host_.SendToModule(keyboardTarget_, MSG_PAD_CHARACTER, kBackspace, 0);
+            }
+            break;
+        default: KeySound(); break;
     }
 }
 
 bool CMainFrame::TakesKeys() const {
-    return currentCategory_ <= kLastPanelCategory || currentCategory_ == CATEGORY_CONSTANTS;
+    return currentCategory_ <= kLastPanelCategory || currentCategory_ == CATEGORY_CONSTANTS || macroEditing_;
+}
+
+bool CMainFrame::CharacterToTarget(char16_t character) {
+    if (keyboardTarget_ == ModuleWindow::none) {
+        return false;
+    }
+    if ((character >= u'0' && character <= u'9') ||
+        kSoundingCharacters.find(character) != std::u16string_view::npos) {
+        KeySound();
+    }
+    host_.SendToModule(keyboardTarget_, MSG_PAD_CHARACTER, character, 0);
+    return true;
 }
 
 void CMainFrame::Character(char16_t character) {
-    if (!TakesKeys()) {
+    if (CharacterToTarget(character) || !TakesKeys()) {
         return;
     }
     if (character == kEnter) {
+        KeySound();
         // Key-by-key entry in reverse Polish order ends a number by Enter.
         if (preferences_.calculator.inputMode == kModeRpn) {
             display_->Key(KEY_OPEN);
@@ -245,9 +325,11 @@ void CMainFrame::Character(char16_t character) {
             Equals();
         }
     } else if (character == kBackspace) {
+        KeySound();
         display_->Key(KEY_LEFT);
         display_->Key(KEY_DELETE);
     } else if (const std::int32_t code = KeyOfCharacter(character, display_->GetBase()); code != KEY_NONE) {
+        KeySound();
         SendLowerKey(code);
     }
 }

@@ -1,18 +1,25 @@
 #include "shell/main_frame_wnd.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
-#include <QMenu>
+#include <QMessageBox>
 #include <QPainter>
 #include <iostream>
 #include <optional>
 
 #include "platform/dense_picture.h"
-#include "platform/qt/popup_menu.h"
+#include "platform/path.h"
+#include "platform/qt/pictures.h"
+#include "shell/about_dialog.h"
+#include "shell/module_factories.h"
+#include "shell/preferences_dialog.h"
 
 namespace quorix {
 
 namespace {
+
+constexpr std::u16string_view kManualFile = u"Quorix.htm";
 
 constexpr char16_t kBackspaceCharacter = 8;
 constexpr char16_t kEnterCharacter = 13;
@@ -28,14 +35,31 @@ std::optional<HardKey> HardKeyOf(int qtKey) {
     }
 }
 
+/// Above a module's window the word "Landscape" has more room, in logical units.
+constexpr int kLandscapeWordBottomOfWindows = 50;
+
+/// Keys that walk the category chooser.
+constexpr std::pair<int, SheetKey> kSheetKeys[] = {
+    {Qt::Key_Left, SheetKey::left},     {Qt::Key_Right, SheetKey::right},
+    {Qt::Key_Up, SheetKey::up},         {Qt::Key_Down, SheetKey::down},
+    {Qt::Key_Tab, SheetKey::next},      {Qt::Key_Backtab, SheetKey::previous},
+    {Qt::Key_Return, SheetKey::choose}, {Qt::Key_Enter, SheetKey::choose},
+    {Qt::Key_Space, SheetKey::choose},  {Qt::Key_Escape, SheetKey::close},
+};
+
 bool Overlap(const Rect& a, const Rect& b) {
     return a.left < b.right && b.left < a.right && a.top < b.bottom && b.top < a.bottom;
 }
 
 }  // namespace
 
-MainFrameWnd::MainFrameWnd(const std::filesystem::path& programFolder)
-    : folder_(programFolder), view_(LoadViewSettings(programFolder)), skin_(programFolder, view_.Screen()) {
+MainFrameWnd::MainFrameWnd(const std::filesystem::path& programFolder, SoundPlayer* sound,
+                           HelpViewer* helpViewer)
+    : folder_(programFolder),
+      view_(LoadViewSettings(programFolder)),
+      skin_(programFolder, view_.Screen()),
+      sound_(sound),
+      helpViewer_(helpViewer) {
     setWindowTitle(QStringLiteral("Quorix"));
     setFocusPolicy(Qt::StrongFocus);
 }
@@ -44,18 +68,21 @@ MainFrameWnd::~MainFrameWnd() = default;
 
 bool MainFrameWnd::Create() {
     led_ = std::make_unique<LedWnd>(this);
+    chooser_ = std::make_unique<ToolsPanelWnd>(*this, *this);
     frame_ = std::make_unique<CMainFrame>(CMainFrame::Surroundings{.folder = folder_,
                                                                    .host = *this,
                                                                    .clock = clock_,
                                                                    .frameTimers = this,
                                                                    .displayTimers = led_.get(),
-                                                                   .waitCursor = &waitCursor_},
+                                                                   .waitCursor = &waitCursor_,
+                                                                   .sound = sound_},
                                           view_.Screen());
     skin_.Select(frame_->Settings().skinFile);
     led_->SetDisplay(&frame_->Display(), static_cast<int>(frame_->Settings().tapHoldInterval));
     if (!ApplyView()) {
         return false;
     }
+    frame_->Start();
     if (view_.position) {
         move(*view_.position);
     }
@@ -64,6 +91,13 @@ bool MainFrameWnd::Create() {
 
 std::filesystem::path MainFrameWnd::SkinPathTried() const {
     return folder_ / std::filesystem::path(kInterfacesFolder) / std::filesystem::path(skin_.SkinFile());
+}
+
+void MainFrameWnd::Raise() {
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    show();
+    raise();
+    activateWindow();
 }
 
 bool MainFrameWnd::ApplyView() {
@@ -77,6 +111,11 @@ bool MainFrameWnd::ApplyView() {
     LayOut();
     SetZoom(view_.Zoom());
     frame_->SetScreen(screen);
+    for (const auto& module : modules_) {
+        if (module) {
+            module->LayOut();
+        }
+    }
     return skinRead;
 }
 
@@ -139,40 +178,177 @@ void MainFrameWnd::InvalidateCell(PanelCell cell) {
 }
 
 void MainFrameWnd::CategoryChanged(int category) {
-    // During start-up the frame calls before it is there.
-    if (frame_) {
-        led_->setVisible(ShowsDisplay(category));
+    led_->setVisible(ShowsDisplay(category));
+    if (ModuleWnd* const module = Module(EntryOf(category).window)) {
+        module->SetCategory(category);
+        module->InvalidateAll();
     }
 }
 
-void MainFrameWnd::OpenPopup(PopupId id, PanelCell at, std::vector<std::u16string_view> items) {
-    QMenu* const menu = NewPopupMenu(this, Scale() * Zoom());
-    for (std::size_t i = 0; i < items.size(); ++i) {
-        const bool available = id != POPUP_CATEGORIES || frame_->CategoryAvailable(static_cast<int>(i));
-        if (available) {
-            QAction* const action =
-                menu->addAction(QString::fromUtf16(items[i].data(), static_cast<qsizetype>(items[i].size())));
-            connect(action, &QAction::triggered, this,
-                    [this, id, i] { frame_->PopupChosen(id, static_cast<int>(i)); });
+void MainFrameWnd::CreateModule(int category) {
+    std::unique_ptr<ModuleWnd> module = MakeModuleWnd(*this, *this, category);
+    if (!module) {
+        return;
+    }
+    module->LayOut();
+    module->show();
+    chooser_->raise();
+    modules_[static_cast<std::size_t>(EntryOf(category).window)] = std::move(module);
+}
+
+void MainFrameWnd::DestroyModule(ModuleWindow window) {
+    // A window may ask for another category from within a handler of its own.
+    if (auto& module = modules_[static_cast<std::size_t>(window)]) {
+        module->hide();
+        module.release()->deleteLater();
+    }
+}
+
+void MainFrameWnd::ShowModule(ModuleWindow window, bool shown) {
+    if (ModuleWnd* const module = Module(window)) {
+        module->setVisible(shown);
+    }
+}
+
+std::intptr_t MainFrameWnd::SendToModule(ModuleWindow window, int message, std::intptr_t first,
+                                         std::intptr_t second) {
+    ModuleWnd* const module = Module(window);
+    return module != nullptr ? module->SendMessage(message, first, second) : 0;
+}
+
+void MainFrameWnd::ReloadSkin() {
+    skin_.Select(frame_->Settings().skinFile);
+    if (!skin_.LoadSkinPaths()) {
+        ShowNotice(QStringLiteral("The skin cannot be read; the old pictures stay."));
+    }
+    LoadColours();
+    loadedDensity_ = 0;
+    for (const auto& module : modules_) {
+        if (module) {
+            module->SendMessage(MSG_SKIN_CHANGED);
+            module->InvalidateAll();
         }
     }
-    const Rect cell = CellRect(frame_->CurrentOrientation(), at).Scaled(Scale());
-    menu->popup(mapToGlobal(QPointF(cell.left * Zoom(), cell.bottom * Zoom()).toPoint()));
+    InvalidateAll();
 }
 
-void MainFrameWnd::Paint(QPainter& painter, const Rect& dirty) {
-    PreparePictures();
-    const Orientation orientation = frame_->CurrentOrientation();
-    const FrameLayout& layout = LayoutOf(orientation);
-    PanelPainter::PaintBody(painter, layout.client.Scaled(Scale()),
-                            {.outer = colours_[SkinColour::border0],
-                             .inner = colours_[SkinColour::border1],
-                             .body = bodyColour_});
-    if (layout.landscapeWord.Width() > 0) {
-        PanelPainter::PaintLandscapeWord(painter, layout.landscapeWord.Scaled(Scale()), Scale());
+void MainFrameWnd::ShowChooser(bool open) {
+    if (!open) {
+        chooser_->hide();
+        return;
     }
+    const int category = frame_->CurrentCategory();
+    ModuleWnd* const module = Module(EntryOf(category).window);
+    chooser_->Open(module != nullptr && category > kLastPanelCategory
+                       ? module->ChooserKey()
+                       : CellRect(frame_->CurrentOrientation(), {Panel::upper, CELL_CHOOSER}));
+}
+
+void MainFrameWnd::ShowNotice(const QString& text) {
+    auto* const box = new QMessageBox(QMessageBox::Information, windowTitle(), text, QMessageBox::Ok, this);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->open();
+}
+
+void MainFrameWnd::ShowMissing(std::u16string_view name) {
+    ShowNotice(QStringLiteral("%1 is not part of this version.")
+                   .arg(QString::fromUtf16(name.data(), static_cast<qsizetype>(name.size()))));
+}
+
+void MainFrameWnd::OpenPreferences() {
+    auto* const dialog = new PreferencesDialog(
+        this, frame_->UserSettings(),
+        {.folder = folder_, .skin = skin_, .sound = sound_, .pixelsPerUnit = Scale() * Zoom()});
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    connect(dialog, &QDialog::accepted, this, [this, dialog] { frame_->ApplyPreferences(dialog->Result()); });
+    dialog->open();
+}
+
+void MainFrameWnd::OpenAbout() {
+    ShowAbout(this);
+}
+
+void MainFrameWnd::OpenHelp() {
+    const std::filesystem::path manual = ResolvePath(folder_, kManualFile);
+    // The desktop may give up when this window has gone.
+    const auto showHere = [this, manual, alive = QPointer<MainFrameWnd>(this)] {
+        if (!alive) {
+            return;
+        }
+        if (!help_) {
+            help_ = std::make_unique<HtmlWindow>();
+        }
+        if (!help_->ShowFile(manual)) {
+            ShowNotice(
+                QStringLiteral("The help file %1 is missing.").arg(QString::fromStdString(manual.string())));
+        }
+    };
+    if (helpViewer_ == nullptr || !helpViewer_->Open(manual, showHere)) {
+        showHere();
+    }
+}
+
+void MainFrameWnd::RunTool(Tool tool) {
+    switch (tool) {
+        case Tool::preferences: OpenPreferences(); break;
+        case Tool::help: OpenHelp(); break;
+        case Tool::about: OpenAbout(); break;
+        case Tool::exit: close(); break;
+        case Tool::count: break;
+    }
+}
+
+void MainFrameWnd::OpenPopup(PopupId id, PanelCell at, const std::vector<std::u16string>& items) {
+    OpenPopupAt(id, CellRect(frame_->CurrentOrientation(), at).Scaled(Scale()), items);
+}
+
+void MainFrameWnd::OpenPopupAt(PopupId id, const Rect& at, const std::vector<std::u16string>& items) {
+    ClosePopup();
+    popup_ = new MorvaneListBoxWnd(*this, *this, id, [this, id](int row) {
+        ClosePopup();
+        if (row >= 0) {
+            frame_->KeySound();
+            frame_->PopupChosen(id, row);
+        }
+    });
+    popup_->Open(at, items, -1);
+    qApp->installEventFilter(this);
+}
+
+void MainFrameWnd::PlaySound(const std::filesystem::path& wav) {
+    if (sound_ != nullptr && !wav.empty() && frame_->Settings().soundEnabled != 0) {
+        sound_->Play(wav);
+    }
+}
+
+void MainFrameWnd::ClosePopup() {
+    if (popup_) {
+        qApp->removeEventFilter(this);
+        popup_->hide();
+        // It may be within a handler of its own.
+        popup_->deleteLater();
+        popup_ = nullptr;
+    }
+}
+
+/// A tap outside an open list closes it and does nothing else.
+bool MainFrameWnd::eventFilter(QObject* watched, QEvent* event) {
+    const bool press =
+        event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick;
+    if (popup_ && press && watched->isWidgetType() && watched != popup_) {
+        ClosePopup();
+        return true;
+    }
+    return WindowBase::eventFilter(watched, event);
+}
+
+void MainFrameWnd::PaintPanels(QPainter& painter, const Rect& dirty) {
+    const Orientation orientation = frame_->CurrentOrientation();
     for (const auto& [panel, count] :
          {std::pair{Panel::upper, kUpperCellCount}, {Panel::lower, kLowerCellCount}}) {
+        if (panel == Panel::upper && Ground() != PageGround::panels) {
+            continue;
+        }
         for (int index = 0; index < count; ++index) {
             const PanelCell cell{panel, index};
             if (Overlap(CellRect(orientation, cell).Scaled(Scale()), dirty)) {
@@ -180,6 +356,49 @@ void MainFrameWnd::Paint(QPainter& painter, const Rect& dirty) {
             }
         }
     }
+}
+
+/// The wordmark stands where the converters show no display.
+void MainFrameWnd::PaintLogo(QPainter& painter) {
+    const QImage logo = ToQImage(LoadDense(skin_.FindSkinValue("Logo"), Scale(), Density()));
+    if (!logo.isNull()) {
+        const Rect display = LayoutOf(frame_->CurrentOrientation()).display.Scaled(Scale());
+        DrawPicture(painter, QPointF(display.left, display.top), logo, logo.rect());
+    }
+}
+
+void MainFrameWnd::Paint(QPainter& painter, const Rect& dirty) {
+    PreparePictures();
+    const int category = frame_->CurrentCategory();
+    const FrameLayout& layout = LayoutOf(frame_->CurrentOrientation());
+    PanelPainter::PaintBody(painter, layout.client.Scaled(Scale()),
+                            {.outer = colours_[SkinColour::border0],
+                             .inner = colours_[SkinColour::border1],
+                             .body = bodyColour_});
+    if (Rect word = layout.landscapeWord; word.Width() > 0) {
+        if (category > kLastPanelCategory) {
+            word.bottom = kLandscapeWordBottomOfWindows;
+        }
+        PanelPainter::PaintLandscapeWord(painter, word.Scaled(Scale()), Scale());
+    }
+    if (category == CATEGORY_UNIT_CONVERTER || category == CATEGORY_CURRENCY_CONVERTER) {
+        PaintLogo(painter);
+    }
+    if (Ground() != PageGround::window) {
+        PaintPanels(painter, dirty);
+    }
+}
+
+bool MainFrameWnd::ChooserKeyPressed(const QKeyEvent& event) {
+    if (!frame_->ChooserOpen()) {
+        return false;
+    }
+    for (const auto& [qtKey, key] : kSheetKeys) {
+        if (event.key() == qtKey) {
+            chooser_->Key(key);
+        }
+    }
+    return true;
 }
 
 bool MainFrameWnd::DesktopKey(const QKeyEvent& event) {
@@ -190,6 +409,13 @@ bool MainFrameWnd::DesktopKey(const QKeyEvent& event) {
         view_.zoomPercent = ZoomAfter(view_.zoomPercent, 1);
     } else if (control && event.key() == Qt::Key_Minus) {
         view_.zoomPercent = ZoomAfter(view_.zoomPercent, -1);
+    } else if (event.key() == Qt::Key_F1) {
+        OpenHelp();
+        return true;
+    } else if (control && event.key() >= Qt::Key_1 && event.key() <= Qt::Key_9) {
+        frame_->SwitchCategory(
+            frame_->Settings().categoryOrder[static_cast<std::size_t>(event.key() - Qt::Key_1)]);
+        return true;
     } else if (control && event.key() == Qt::Key_Q) {
         close();
         return true;
@@ -201,7 +427,7 @@ bool MainFrameWnd::DesktopKey(const QKeyEvent& event) {
 }
 
 void MainFrameWnd::keyPressEvent(QKeyEvent* event) {
-    if (DesktopKey(*event)) {
+    if ((popup_ && popup_->Key(*event)) || DesktopKey(*event) || ChooserKeyPressed(*event)) {
         return;
     }
     if (const auto hardKey = HardKeyOf(event->key())) {
@@ -220,7 +446,8 @@ void MainFrameWnd::keyPressEvent(QKeyEvent* event) {
 }
 
 void MainFrameWnd::keyReleaseEvent(QKeyEvent* event) {
-    if (const auto hardKey = HardKeyOf(event->key()); hardKey && !event->isAutoRepeat()) {
+    if (const auto hardKey = HardKeyOf(event->key());
+        hardKey && !event->isAutoRepeat() && !frame_->ChooserOpen()) {
         frame_->KeyUp(*hardKey);
     }
 }

@@ -3,36 +3,75 @@
 // The one top-level window: paints the body and the panels, loads the skin, and hands everything else to
 // CMainFrame.
 
+#include <QPointer>
+#include <array>
 #include <memory>
 
 #include "frontends/led_wnd.h"
 #include "frontends/panel_painter.h"
 #include "platform/clock.h"
+#include "platform/help_viewer.h"
+#include "platform/qt/html_window.h"
 #include "platform/qt/qt_wait_cursor.h"
 #include "platform/qt/view_settings.h"
 #include "platform/qt/window_base.h"
 #include "shell/colours.h"
+#include "shell/list_box_wnd.h"
 #include "shell/main_frame.h"
+#include "shell/module_wnd.h"
 #include "shell/skin.h"
+#include "shell/tools_panel_wnd.h"
 
 namespace quorix {
 
-class MainFrameWnd : public WindowBase, public FrameHost {
+class MainFrameWnd : public WindowBase, public FrameHost, public ModuleSite {
   public:
-    explicit MainFrameWnd(const std::filesystem::path& programFolder);
+    /// sound and helpViewer may be null; they outlive the window.
+    explicit MainFrameWnd(const std::filesystem::path& programFolder, SoundPlayer* sound = nullptr,
+                          HelpViewer* helpViewer = nullptr);
     ~MainFrameWnd() override;
 
     /// Reads preferences, skin and pictures and lays the window out. False when the skin cannot be read:
     /// start-up then ends; SkinPathTried names the file.
     bool Create();
     [[nodiscard]] std::filesystem::path SkinPathTried() const;
-    [[nodiscard]] CMainFrame& Frame() { return *frame_; }
+    /// Shows the window before all others.
+    void Raise();
+    [[nodiscard]] CMainFrame& Frame() override { return *frame_; }
+    /// The live window of a module, or null.
+    [[nodiscard]] ModuleWnd* Module(ModuleWindow window) const {
+        return modules_[static_cast<std::size_t>(window)].get();
+    }
+    [[nodiscard]] ToolsPanelWnd& Chooser() { return *chooser_; }
+    /// The open popup list, or null.
+    [[nodiscard]] MorvaneListBoxWnd* Popup() const { return popup_; }
 
     void InvalidateAll() override;
     void InvalidateDisplay() override;
     void InvalidateCell(PanelCell cell) override;
     void CategoryChanged(int category) override;
-    void OpenPopup(PopupId id, PanelCell at, std::vector<std::u16string_view> items) override;
+    void OpenPopup(PopupId id, PanelCell at, const std::vector<std::u16string>& items) override;
+    void ClosePopup() override;
+    void ShowChooser(bool open) override;
+    void RunTool(Tool tool) override;
+    void ShowMissing(std::u16string_view name) override;
+    void CreateModule(int category) override;
+    void DestroyModule(ModuleWindow window) override;
+    void ShowModule(ModuleWindow window, bool shown) override;
+    std::intptr_t SendToModule(ModuleWindow window, int message, std::intptr_t first,
+                               std::intptr_t second) override;
+    void ReloadSkin() override;
+
+    [[nodiscard]] const std::filesystem::path& Folder() const override { return folder_; }
+    [[nodiscard]] const Skin& CurrentSkin() const override { return skin_; }
+    [[nodiscard]] const SkinColours& Colours() const override { return colours_; }
+    [[nodiscard]] ColorRef BodyColour() const override { return bodyColour_; }
+    [[nodiscard]] PanelPainter& Panels() override {
+        PreparePictures();
+        return panels_;
+    }
+    void PlaySound(const std::filesystem::path& wav) override;
+    void OpenPopupAt(PopupId id, const Rect& at, const std::vector<std::u16string>& items) override;
 
   protected:
     void Paint(QPainter& painter, const Rect& dirty) override;
@@ -43,9 +82,18 @@ class MainFrameWnd : public WindowBase, public FrameHost {
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
     bool DesktopKey(const QKeyEvent& event);
+    bool ChooserKeyPressed(const QKeyEvent& event);
+    void PaintPanels(QPainter& painter, const Rect& dirty);
+    void PaintLogo(QPainter& painter);
+    void OpenPreferences();
+    void OpenHelp();
+    void OpenAbout();
+    void ShowNotice(const QString& text);
+    [[nodiscard]] PageGround Ground() const { return EntryOf(frame_->CurrentCategory()).ground; }
     /// False when the skin cannot be read; the window is laid out all the same.
     bool ApplyView();
     void LoadColours();
@@ -63,8 +111,14 @@ class MainFrameWnd : public WindowBase, public FrameHost {
     /// What the painter's pictures were loaded for; 0 and -1: not yet.
     double loadedDensity_ = 0;
     int loadedCategory_ = -1;
+    SoundPlayer* sound_;
+    HelpViewer* helpViewer_;
+    std::unique_ptr<HtmlWindow> help_;
     std::unique_ptr<LedWnd> led_;
     std::unique_ptr<CMainFrame> frame_;
+    std::array<std::unique_ptr<ModuleWnd>, kModuleWindowCount> modules_;
+    std::unique_ptr<ToolsPanelWnd> chooser_;
+    QPointer<MorvaneListBoxWnd> popup_;
     bool closed_ = false;
 };
 

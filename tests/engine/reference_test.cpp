@@ -277,12 +277,13 @@ std::optional<Value> WalkText(std::u16string text, int radix) {
 
 // Operands and operators in turn make valid texts; soup of pieces makes the rest.
 std::string RandomText(std::mt19937& random, int radix) {
-    static constexpr std::string_view kOperands[] = {"1", "2.5", "7",    "0",    "12e3",  "x",       "pi",
-                                                     "e", "i",   "[VA]", "(-3)", "(x-1)", "(1+2*x)", "0e5"};
+    static constexpr std::string_view kOperands[] = {"1",       "2.5", "7",       "0",        "12e3", "x",
+                                                     "pi",      "e",   "i",       "[VA]",     "(-3)", "(x-1)",
+                                                     "(1+2*x)", "0e5", "cosh(x)", "(cosh(i))"};
     static constexpr std::string_view kPieces[] = {
-        "1",     "2.5",   "12e3", "+",      "-",    "*",    "/",  "(",  ")",     " ",
-        "x",     "pi",    "[VA]", "[VB]",   "sin ", "abs(", "^",  "!",  "%",     " exp ",
-        " mod ", "1.2.3", "0e5",  "1e5100", "(-",   ")*(",  "FF", "10", " and ", "iroot"};
+        "1",   "2.5",    "12e3", "+",    "-",      "*",  "/",  "(",     ")",     " ",     "x",
+        "pi",  "[VA]",   "[VB]", "sin ", "abs(",   "^",  "!",  "%",     " exp ", " mod ", "1.2.3",
+        "0e5", "1e5100", "(-",   ")*(",  "/cosh(", "FF", "10", " and ", "iroot"};
     std::string text;
     const bool alternating = random() % 3 != 0;
     const std::size_t length = 1 + random() % 12;

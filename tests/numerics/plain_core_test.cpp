@@ -99,6 +99,20 @@ TEST(PlainCore, ArithmeticAtTheEndsOfTheRangeIsTheSame) {
     }
 }
 
+TEST(PlainCore, FactorialsAreProductsFactorByFactor) {
+    QReal expected = constants::kOne, actual;
+    for (int n = 0; n <= 1500; ++n) {
+        QReal factor;
+        ltoq(n, factor);
+        if (n > 1) plain::Multiply(factor, QReal(expected), expected);
+        qfactorial(static_cast<std::uint16_t>(n), actual);
+        ASSERT_EQ(actual, expected) << n;
+    }
+    ClearNumericError();
+    qfactorial(2000, actual);
+    EXPECT_EQ(NumericErrorFlag(), NUMERIC_OVERFLOW);
+}
+
 // Products and quotients of dense mantissas reach the places near the half where only the words decide.
 TEST(PlainCore, RoundingNearTheHalfIsTheSame) {
     QRealRandom random(3);

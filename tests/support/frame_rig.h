@@ -3,6 +3,7 @@
 // A main frame without a window: taps and keys in, rows of the display out.
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "engine/variable_store.h"
@@ -20,16 +21,43 @@ class FakeHost : public FrameHost {
     void InvalidateDisplay() override { ++displayRepaints; }
     void InvalidateCell(PanelCell cell) override { cells.push_back(cell); }
     void CategoryChanged(int category) override { categories.push_back(category); }
-    void OpenPopup(PopupId id, PanelCell, std::vector<std::u16string_view> items) override {
+    void OpenPopup(PopupId id, PanelCell, const std::vector<std::u16string>& items) override {
         popup = id;
-        popupItems = std::move(items);
+        popupItems = items;
     }
+    void ClosePopup() override { popup = 0; }
+    void ShowChooser(bool open) override { Log(open ? "chooser" : "no chooser"); }
+    void RunTool(Tool tool) override { Log("tool " + std::to_string(static_cast<int>(tool))); }
+    void ShowMissing(std::u16string_view name) override { Log("missing " + ToUtf8(name)); }
+    void CreateModule(int category) override { Log("create " + std::to_string(category)); }
+    void DestroyModule(ModuleWindow window) override { Log("destroy " + Number(window)); }
+    void ShowModule(ModuleWindow window, bool shown) override {
+        Log((shown ? "show " : "hide ") + Number(window));
+    }
+    std::intptr_t SendToModule(ModuleWindow window, int message, std::intptr_t first,
+                               std::intptr_t second) override {
+        Log("send " + Number(window) + ' ' + std::to_string(message) + ' ' + std::to_string(first) + ' ' +
+            std::to_string(second));
+        return 0;
+    }
+    void ReloadSkin() override { Log("reload skin"); }
+    /// What has been asked of the host since the last call.
+    std::vector<std::string> TakeLog() { return std::exchange(log, {}); }
+    void Log(std::string what) { log.push_back(std::move(what)); }
+    static std::string Number(ModuleWindow window) { return std::to_string(static_cast<int>(window)); }
+    std::vector<std::string> log;
     int fullRepaints = 0;
     int displayRepaints = 0;
     std::vector<PanelCell> cells;
     std::vector<int> categories;
     int popup = 0;
-    std::vector<std::u16string_view> popupItems;
+    std::vector<std::u16string> popupItems;
+};
+
+class FakeSound : public SoundPlayer {
+  public:
+    void Play(const std::filesystem::path& wav) override { played.push_back(wav.filename().string()); }
+    std::vector<std::string> played;
 };
 
 class FrameRig {
@@ -40,8 +68,11 @@ class FrameRig {
                  .clock = clock,
                  .frameTimers = &timers,
                  .displayTimers = &displayTimers,
-                 .waitCursor = nullptr},
-                screen) {}
+                 .waitCursor = nullptr,
+                 .sound = &sound},
+                screen) {
+        frame.Start();
+    }
 
     Point CentreOf(PanelCell cell) const {
         const Rect rect = CellRect(frame.CurrentOrientation(), cell).Scaled(frame.Scale());
@@ -70,6 +101,7 @@ class FrameRig {
     [[nodiscard]] std::string Result() const { return ToUtf8(frame.Display().GetResultText()); }
 
     FakeHost host;
+    FakeSound sound;
     FakeClock clock;
     FakeTimers timers;
     FakeTimers displayTimers;
