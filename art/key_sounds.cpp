@@ -44,7 +44,7 @@ constexpr Voice kBubble[] = {{0, 420, 1350, 22, 1, 0}, {0, 840, 2700, 12, 0.12, 
 
 constexpr Recipe kRecipes[] = {
     {40, 1.0, 0.5, kWood},        {80, 1.5, 0.35, kGlass},  {60, 2.0, 0.6, kThock},
-    {48, 0.8, 0.45, kTypewriter}, {65, 9.0, 0.45, kBubble},
+    {48, 1.4, 0.45, kTypewriter}, {65, 9.0, 0.45, kBubble},
 };
 
 constexpr double kReleaseMs = 8;

@@ -34,14 +34,18 @@ CMainFrame::CMainFrame(const Surroundings& surroundings, const DeviceScreen& scr
       macroFiles_(folder_) {
     RemoveAbandonedTemporaries(folder_);
     LoadPreferences(folder_ / kPreferencesFileName, surroundings.clock, preferences_);
-    display_ =
-        std::make_unique<CLedDisplay>(preferences_.calculator, surroundings.displayTimers,
-                                      LedParent{.invalidate = [this] { host_.InvalidateDisplay(); },
-                                                .send = [this](LedMessage message) { OnLedMessage(message); },
-                                                .hideToolTip = {},
-                                                .showToolTip = {}});
+    display_ = std::make_unique<CLedDisplay>(
+        preferences_.calculator, surroundings.displayTimers,
+        LedParent{
+            .invalidate = [this] { host_.InvalidateDisplay(); },
+            .send = [this](LedMessage message) { OnLedMessage(message); },
+            .hideToolTip = [this] { host_.ShowHint({}); },
+            .showToolTip = [this](std::u16string_view line, std::u16string_view lengths,
+                                  int cursor) { host_.ShowHint(hints_.FindHint(line, lengths, cursor)); }});
+    names_ = std::make_unique<TypeAhead>(*display_, [this] { host_.NamesChanged(); });
     displayFile_.Restore(*display_);
     macroFiles_.Load(macros_);
+    RefreshMacroNames();
     equals_ = std::make_unique<EqualsPath>(
         *display_, surroundings.waitCursor,
         EqualsPath::Hooks{
@@ -62,8 +66,34 @@ void CMainFrame::Start() {
     }
 }
 
+void CMainFrame::RefreshMacroNames() {
+    std::vector<std::u16string> rows;
+    std::vector<TypeAhead::Macro> names;
+    for (const Macro& macro : macros_.All()) {
+        rows.push_back(CallTextOf(macro));
+        names.push_back({macro.name, CallTokensOf(macro).text});
+    }
+    hints_.SetMacroRows(std::move(rows));
+    names_->SetMacros(std::move(names));
+}
+
+void CMainFrame::Undo() {
+    names_->Close();
+    if (TakesKeys()) {
+        display_->Undo();
+    }
+}
+
+void CMainFrame::Redo() {
+    names_->Close();
+    if (TakesKeys()) {
+        display_->Redo();
+    }
+}
+
 void CMainFrame::EnterCategory(int category) {
     const int previous = currentCategory_;
+    names_->Close();
     keyboardTarget_ = ModuleWindow::none;
     EndPress();
     currentCategory_ = category;
@@ -258,6 +288,7 @@ void CMainFrame::SetScreen(const DeviceScreen& screen) {
 void CMainFrame::Equals() {
     equals_->Run(currentCategory_);
     host_.InvalidateDisplay();
+    host_.ResultShown();
 }
 
 void CMainFrame::OnLedMessage(LedMessage message) {

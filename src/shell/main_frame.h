@@ -6,16 +6,19 @@
 #include <cstdint>
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <string_view>
 #include <vector>
 
 #include "frontends/display_file.h"
 #include "frontends/equals.h"
+#include "frontends/function_hints.h"
 #include "frontends/key_panel.h"
 #include "frontends/led_display.h"
 #include "frontends/macro_file.h"
 #include "frontends/macro_list.h"
 #include "frontends/panel_keys.h"
+#include "frontends/type_ahead.h"
 #include "platform/clock.h"
 #include "platform/screen.h"
 #include "platform/sound.h"
@@ -73,6 +76,12 @@ class FrameHost {
     /// Shows or hides the category chooser.
     virtual void ShowChooser(bool open) = 0;
     virtual void RunTool(Tool tool) = 0;
+    /// Shows a function hint at the display's cursor; hides it without one.
+    virtual void ShowHint(const std::optional<FunctionHint>& hint) = 0;
+    /// The list of function names at the cursor has changed (CMainFrame::Names).
+    virtual void NamesChanged() = 0;
+    /// "=" has put a result on show.
+    virtual void ResultShown() = 0;
     /// A key above the panels wants a window that does not exist.
     virtual void ShowMissing(std::u16string_view name) = 0;
 
@@ -146,6 +155,13 @@ class CMainFrame {
     [[nodiscard]] const MacroList& Macros() const { return macros_; }
     /// Plays the chosen key sound, when sounds are on.
     void KeySound();
+    /// The list of names that opens while a letter is typed.
+    [[nodiscard]] TypeAhead& Names() { return *names_; }
+    /// Takes back the last edit of the line, or does it again.
+    void Undo();
+    void Redo();
+    /// Whether typed characters and pad keys reach the display.
+    [[nodiscard]] bool TakesKeys() const;
 
     /// Pen on the panels; points in device pixels of the frame's client area.
     void ButtonDown(Point point);
@@ -184,7 +200,8 @@ class CMainFrame {
     void KillTimers();
     void OnLedMessage(LedMessage message);
     [[nodiscard]] bool IsOrange() const { return holdFired_ || display_->GetShift(); }
-    [[nodiscard]] bool TakesKeys() const;
+    void RefreshMacroNames();
+    bool NamesTakeKey(TypeAheadKey key);
 
     std::filesystem::path folder_;
     FrameHost& host_;
@@ -197,6 +214,10 @@ class CMainFrame {
     std::unique_ptr<EqualsPath> equals_;
     MacroFiles macroFiles_;
     MacroList macros_;
+    HintTable hints_;
+    std::unique_ptr<TypeAhead> names_;
+    /// The release of a key whose press went to the list of names.
+    bool ignoreKeyUp_ = false;
     PanelLooks looks_;
     int currentCategory_ = 0;
     /// The user's mode while a category above 2 forces String mode.

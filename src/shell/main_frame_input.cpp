@@ -11,7 +11,9 @@ namespace {
 constexpr int kLeaveInset = 4;
 
 constexpr char16_t kBackspace = 8;
+constexpr char16_t kTab = 9;
 constexpr char16_t kEnter = 13;
+constexpr char16_t kEscape = 27;
 
 /// The function list of Arithmetic; its items are the keys from KEY_INTEGRAL on, in another order for the
 /// first two.
@@ -52,6 +54,14 @@ constexpr ModuleWindow OwnerOf(PopupId id) {
 /// Esc, besides the digits.
 constexpr std::u16string_view kSoundingCharacters = u"\b\t.-\r=\u001B";
 
+/// Characters that the open list of names takes as keys.
+constexpr std::pair<char16_t, TypeAheadKey> kNameKeys[] = {
+    {kEnter, TypeAheadKey::accept},
+    {kTab, TypeAheadKey::accept},
+    {kBackspace, TypeAheadKey::backspace},
+    {kEscape, TypeAheadKey::escape},
+};
+
 constexpr Point CentreOf(const Rect& rect) {
     return {(rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2};
 }
@@ -84,6 +94,7 @@ void CMainFrame::EndPress() {
 
 void CMainFrame::ButtonDown(Point point) {
     EndPress();
+    names_->Close();
     const PanelCell cell = CellAt(CurrentOrientation(), Scale(), point);
     const PageGround ground = EntryOf(currentCategory_).ground;
     if (cell.panel == Panel::none || ground == PageGround::window ||
@@ -270,6 +281,12 @@ void CMainFrame::KeyDown(HardKey key) {
     if (keyboardTarget_ != ModuleWindow::none) {
         return;
     }
+    ignoreKeyUp_ = (key == HardKey::up && NamesTakeKey(TypeAheadKey::up)) ||
+                   (key == HardKey::down && NamesTakeKey(TypeAheadKey::down));
+    if (ignoreKeyUp_ || !TakesKeys()) {
+        return;
+    }
+    names_->Close();
     switch (key) {
         case HardKey::left: display_->Key(KEY_LEFT); break;
         case HardKey::right: display_->Key(KEY_RIGHT); break;
@@ -279,6 +296,9 @@ void CMainFrame::KeyDown(HardKey key) {
 }
 
 void CMainFrame::KeyUp(HardKey key) {
+    if (std::exchange(ignoreKeyUp_, false)) {
+        return;
+    }
     switch (key) {
         case HardKey::up:
         case HardKey::down:
@@ -312,8 +332,20 @@ bool CMainFrame::CharacterToTarget(char16_t character) {
     return true;
 }
 
+bool CMainFrame::NamesTakeKey(TypeAheadKey key) {
+    return names_->HandleKey(key);
+}
+
 void CMainFrame::Character(char16_t character) {
     if (CharacterToTarget(character) || !TakesKeys()) {
+        return;
+    }
+    for (const auto& [typed, key] : kNameKeys) {
+        if (character == typed && NamesTakeKey(key)) {
+            return;
+        }
+    }
+    if (names_->HandleCharacter(character)) {
         return;
     }
     if (character == kEnter) {

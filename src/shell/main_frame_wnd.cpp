@@ -22,6 +22,7 @@ namespace {
 constexpr std::u16string_view kManualFile = u"Quorix.htm";
 
 constexpr char16_t kBackspaceCharacter = 8;
+constexpr char16_t kTabCharacter = 9;
 constexpr char16_t kEnterCharacter = 13;
 
 std::optional<HardKey> HardKeyOf(int qtKey) {
@@ -77,6 +78,8 @@ bool MainFrameWnd::Create() {
                                                                    .waitCursor = &waitCursor_,
                                                                    .sound = sound_},
                                           view_.Screen());
+    hint_ = std::make_unique<HintWnd>(this);
+    names_ = std::make_unique<TypeAheadWnd>(this, frame_->Names());
     skin_.Select(frame_->Settings().skinFile);
     led_->SetDisplay(&frame_->Display(), static_cast<int>(frame_->Settings().tapHoldInterval));
     if (!ApplyView()) {
@@ -126,6 +129,12 @@ void MainFrameWnd::LoadColours() {
     }
     led_->SetFrameColours(
         {colours_[SkinColour::border2], colours_[SkinColour::border3], colours_[SkinColour::border4]});
+    const SheetColours sheet{.sheet = colours_[SkinColour::sheet],
+                             .ink = colours_[SkinColour::sheetInk],
+                             .line = colours_[SkinColour::sheetLine],
+                             .accent = colours_[SkinColour::sheetAccent]};
+    hint_->SetColours(sheet);
+    names_->SetColours(sheet);
 }
 
 /// Reads the pictures that are not there yet in the density of this paint.
@@ -244,6 +253,29 @@ void MainFrameWnd::ShowChooser(bool open) {
                        : CellRect(frame_->CurrentOrientation(), {Panel::upper, CELL_CHOOSER}));
 }
 
+Rect MainFrameWnd::ClientPixels() const {
+    return {0, 0, Place().Width(), Place().Height()};
+}
+
+void MainFrameWnd::ShowHint(const std::optional<FunctionHint>& hint) {
+    // During start-up the display speaks before its helpers are there.
+    if (!hint_) {
+        return;
+    }
+    if (hint && led_->isVisible() && !frame_->Names().IsOpen()) {
+        hint_->ShowHint(*hint, led_->CursorRect(), ClientPixels());
+    } else {
+        hint_->hide();
+    }
+}
+
+void MainFrameWnd::NamesChanged() {
+    if (names_) {
+        hint_->hide();
+        names_->Follow(led_->CursorRect(), ClientPixels());
+    }
+}
+
 void MainFrameWnd::ShowNotice(const QString& text) {
     auto* const box = new QMessageBox(QMessageBox::Information, windowTitle(), text, QMessageBox::Ok, this);
     box->setAttribute(Qt::WA_DeleteOnClose);
@@ -260,7 +292,10 @@ void MainFrameWnd::OpenPreferences() {
         this, frame_->UserSettings(),
         {.folder = folder_, .skin = skin_, .sound = sound_, .pixelsPerUnit = Scale() * Zoom()});
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    connect(dialog, &QDialog::accepted, this, [this, dialog] { frame_->ApplyPreferences(dialog->Result()); });
+    connect(dialog, &QDialog::accepted, this, [this, dialog] {
+        frame_->ApplyPreferences(dialog->Result());
+        led_->SetDisplay(&frame_->Display(), static_cast<int>(frame_->Settings().tapHoldInterval));
+    });
     dialog->open();
 }
 
@@ -389,6 +424,22 @@ void MainFrameWnd::Paint(QPainter& painter, const Rect& dirty) {
     }
 }
 
+/// Keys that edit, copy and paste: for the display where it takes keys, else for the window of the category.
+bool MainFrameWnd::EditKey(const QKeyEvent& event) {
+    const bool shift = (event.modifiers() & Qt::ShiftModifier) != 0;
+    const bool here = frame_->TakesKeys();
+    const ModuleWindow window = EntryOf(frame_->CurrentCategory()).window;
+    switch (event.key()) {
+        case Qt::Key_C:
+            here ? led_->Copy(shift) : void(SendToModule(window, MSG_COPY, shift ? 1 : 0, 0));
+            return true;
+        case Qt::Key_V: here ? led_->PasteText() : void(SendToModule(window, MSG_PASTE, 0, 0)); return true;
+        case Qt::Key_Z: shift ? frame_->Redo() : frame_->Undo(); return true;
+        case Qt::Key_Y: frame_->Redo(); return true;
+        default: return false;
+    }
+}
+
 bool MainFrameWnd::ChooserKeyPressed(const QKeyEvent& event) {
     if (!frame_->ChooserOpen()) {
         return false;
@@ -420,7 +471,7 @@ bool MainFrameWnd::DesktopKey(const QKeyEvent& event) {
         close();
         return true;
     } else {
-        return control && event.key() != Qt::Key_Control;
+        return control && (EditKey(event) || event.key() != Qt::Key_Control);
     }
     ApplyView();
     return true;
@@ -438,6 +489,7 @@ void MainFrameWnd::keyPressEvent(QKeyEvent* event) {
         case Qt::Key_Return:
         case Qt::Key_Enter: frame_->Character(kEnterCharacter); return;
         case Qt::Key_Backspace: frame_->Character(kBackspaceCharacter); return;
+        case Qt::Key_Tab: frame_->Character(kTabCharacter); return;
         default: break;
     }
     for (const char16_t character : event->text().toStdU16String()) {

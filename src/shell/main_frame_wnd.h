@@ -7,8 +7,10 @@
 #include <array>
 #include <memory>
 
+#include "frontends/hint_wnd.h"
 #include "frontends/led_wnd.h"
 #include "frontends/panel_painter.h"
+#include "frontends/type_ahead_wnd.h"
 #include "platform/clock.h"
 #include "platform/help_viewer.h"
 #include "platform/qt/html_window.h"
@@ -54,6 +56,9 @@ class MainFrameWnd : public WindowBase, public FrameHost, public ModuleSite {
     void ClosePopup() override;
     void ShowChooser(bool open) override;
     void RunTool(Tool tool) override;
+    void ShowHint(const std::optional<FunctionHint>& hint) override;
+    void NamesChanged() override;
+    void ResultShown() override { led_->Announce(); }
     void ShowMissing(std::u16string_view name) override;
     void CreateModule(int category) override;
     void DestroyModule(ModuleWindow window) override;
@@ -82,10 +87,14 @@ class MainFrameWnd : public WindowBase, public FrameHost, public ModuleSite {
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    /// Tab takes a name from the open list; nothing else here has the focus.
+    bool focusNextPrevChild(bool /*next*/) override { return false; }
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
     bool DesktopKey(const QKeyEvent& event);
+    bool EditKey(const QKeyEvent& event);
+    [[nodiscard]] Rect ClientPixels() const;
     bool ChooserKeyPressed(const QKeyEvent& event);
     void PaintPanels(QPainter& painter, const Rect& dirty);
     void PaintLogo(QPainter& painter);
@@ -118,6 +127,8 @@ class MainFrameWnd : public WindowBase, public FrameHost, public ModuleSite {
     std::unique_ptr<CMainFrame> frame_;
     std::array<std::unique_ptr<ModuleWnd>, kModuleWindowCount> modules_;
     std::unique_ptr<ToolsPanelWnd> chooser_;
+    std::unique_ptr<HintWnd> hint_;
+    std::unique_ptr<TypeAheadWnd> names_;
     QPointer<MorvaneListBoxWnd> popup_;
     bool closed_ = false;
 };

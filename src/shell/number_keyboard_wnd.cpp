@@ -32,9 +32,10 @@ void Type(QWidget& window, int key, const QString& text) {
 
 }  // namespace
 
-MorvaneCalNumberKeyboardWnd::MorvaneCalNumberKeyboardWnd(WindowBase& parent, ModuleSite& site, PadKind kind)
+MorvaneCalNumberKeyboardWnd::MorvaneCalNumberKeyboardWnd(WindowBase& parent, WindowBase& receiver,
+                                                         ModuleSite& site, PadKind kind)
     : WindowBase(&parent),
-      parent_(parent),
+      receiver_(receiver),
       site_(site),
       kind_(kind),
       pad_(kind, site.Frame().CurrentOrientation() == Orientation::landscape) {
@@ -116,7 +117,7 @@ void MorvaneCalNumberKeyboardWnd::OnPenUp(Point at) {
 
 void MorvaneCalNumberKeyboardWnd::Press(const PadKey& key) {
     if (key.kind == PadKey::Kind::command) {
-        parent_.SendMessage(MSG_PAD_COMMAND, key.value, padCookie_);
+        receiver_.SendMessage(MSG_PAD_COMMAND, key.value, padCookie_);
         return;
     }
     QWidget* const focus = QApplication::focusWidget();

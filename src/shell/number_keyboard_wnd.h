@@ -7,11 +7,13 @@
 
 namespace quorix {
 
-/// The number pad of the forms, a child of a module's window. Command cells send MSG_PAD_COMMAND with the
-/// cookie to the parent; the others type into the edit control that has the focus, and into nothing else.
+/// The number pad of the forms. Command cells send MSG_PAD_COMMAND with the cookie to the receiver; the
+/// others type into the edit control that has the focus, and into nothing else.
 class MorvaneCalNumberKeyboardWnd : public WindowBase {
   public:
-    MorvaneCalNumberKeyboardWnd(WindowBase& parent, ModuleSite& site, PadKind kind = PadKind::numbers);
+    /// A child of `parent`; the receiver outlives it.
+    MorvaneCalNumberKeyboardWnd(WindowBase& parent, WindowBase& receiver, ModuleSite& site,
+                                PadKind kind = PadKind::numbers);
 
     /// Stands with its upper left corner at a point of the parent, in logical units.
     void LayOut(Point at);
@@ -28,7 +30,7 @@ class MorvaneCalNumberKeyboardWnd : public WindowBase {
     void PaintCell(QPainter& painter, int cell);
     void Press(const PadKey& key);
 
-    WindowBase& parent_;
+    WindowBase& receiver_;
     ModuleSite& site_;
     PadKind kind_;
     NumberPad pad_;

@@ -216,16 +216,14 @@ TEST_F(MatrixAlgebra, EigenvaluesOfSingularAndPlainCases) {
     const struct {
         CalcValue matrix;
         std::vector<double> values;
-    } cases[] = {
-        {Matrix(2, 2, {1, 1, 1, 1}), {2, 0}},
-        {MakeMatrix(3, 3), {0, 0, 0}},
-        {Matrix(2, 2, {2, 0, 0, 3}), {2, 3}},  // a diagonal start stays as it stands
-        {Matrix(2, 2, {0, 1, 1, 0}), {0, 0}},  // equal magnitudes never converge; the diagonal is what stands
-                                               // there
-        {Matrix(2, 2, {4, 1, 2, 3}), {5, 2}},
-        {Matrix(3, 3, {1, 2, 3, 2, 4, 6, 3, 6, 9}), {14, 0, 0}},
-        {Matrix(2, 2, {-5, 0, 0, 2}), {-5, 2}},
-    };
+    } cases[] = {{Matrix(2, 2, {1, 1, 1, 1}), {2, 0}},
+                 {MakeMatrix(3, 3), {0, 0, 0}},
+                 {Matrix(2, 2, {2, 0, 0, 3}), {2, 3}},  // a diagonal start stays as it stands
+                 {Matrix(2, 2, {0, 1, 1, 0}), {0, 0}},  // equal magnitudes never converge; the diagonal is
+                                                        // what stands there
+                 {Matrix(2, 2, {4, 1, 2, 3}), {5, 2}},
+                 {Matrix(3, 3, {1, 2, 3, 2, 4, 6, 3, 6, 9}), {14, 0, 0}},
+                 {Matrix(2, 2, {-5, 0, 0, 2}), {-5, 2}}};
     for (const auto& [matrix, values] : cases) {
         const std::vector<double> found = EigenvaluesOf(matrix.data, matrix.rows);
         for (std::size_t i = 0; i < values.size(); ++i) {

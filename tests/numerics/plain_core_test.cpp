@@ -45,8 +45,7 @@ constexpr Pair kArithmetic[] = {
     {"qsub", qsub, plain::Subtract},
     {"qmul", qmul, plain::Multiply},
     {"qdiv", qdiv, plain::Divide},
-    {"qmuli", [](const QReal& a, const QReal& b, QReal& c) { qmuli(a, b, c); }, plain::MultiplyShort},
-};
+    {"qmuli", [](const QReal& a, const QReal& b, QReal& c) { qmuli(a, b, c); }, plain::MultiplyShort}};
 
 void ExpectSame(const QReal& a, const QReal& b) {
     for (const Pair& pair : kArithmetic) {

@@ -15,6 +15,7 @@ namespace {
 
 constexpr QSize kFirstSize(640, 720);
 constexpr int kTextPixels = 15;
+constexpr int kTextMargin = 12;
 
 }  // namespace
 
@@ -28,6 +29,7 @@ HtmlWindow::HtmlWindow(QWidget* parent)
 
     QFont font = browser_->font();
     font.setPixelSize(kTextPixels);
+    font.setWeight(QFont::Normal);
     browser_->setFont(font);
     browser_->setFrameShape(QFrame::NoFrame);
     browser_->setOpenLinks(false);
@@ -39,8 +41,10 @@ HtmlWindow::HtmlWindow(QWidget* parent)
             QDesktopServices::openUrl(target);
         }
     });
-    connect(browser_, &QTextBrowser::sourceChanged, this,
-            [this] { setWindowTitle(browser_->documentTitle()); });
+    connect(browser_, &QTextBrowser::sourceChanged, this, [this] {
+        setWindowTitle(browser_->documentTitle());
+        browser_->document()->setDocumentMargin(kTextMargin);
+    });
 
     search_->setPlaceholderText(QStringLiteral("Search"));
     search_->setClearButtonEnabled(true);

@@ -1,11 +1,15 @@
 #include "platform/qt/qt_sound.h"
 
+#include <stdlib.h>
+#include <unistd.h>
+
 #include <QAudioDevice>
 #include <QMediaDevices>
 #include <QSoundEffect>
 #include <QThread>
 #include <QUrl>
 #include <atomic>
+#include <cstdio>
 #include <map>
 
 #include "platform/files.h"
@@ -35,6 +39,12 @@ void InstallMessageFilterOnce() {
         return true;
     }();
     static_cast<void>(installed);
+}
+
+/// Ends the process with `status` where its end would wait for the sound system.
+void LeaveWithoutDestructors(int status, void* /*unused*/) {
+    std::fflush(nullptr);
+    ::_exit(status);
 }
 
 }  // namespace
@@ -79,8 +89,9 @@ QtSoundPlayer::~QtSoundPlayer() {
         worker->thread.quit();
     });
     if (!thread.wait(kLongestEndMs)) {
-        // It hangs in the sound system and cannot be ended; the end of the process ends it.
+        // It hangs in the sound system, with a lock that the library's own destructors want.
         static_cast<void>(worker_.release());
+        ::on_exit(LeaveWithoutDestructors, nullptr);
     }
 }
 

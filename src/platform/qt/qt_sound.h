@@ -11,7 +11,8 @@ namespace quorix {
 class QtSoundPlayer : public SoundPlayer {
   public:
     QtSoundPlayer();
-    /// Waits for the sound system, but not for long.
+    /// At the program's end. Waits for the sound system, but not for long: where it hangs, the process will
+    /// end without running static destructors.
     ~QtSoundPlayer() override;
     QtSoundPlayer(const QtSoundPlayer&) = delete;
     QtSoundPlayer& operator=(const QtSoundPlayer&) = delete;
