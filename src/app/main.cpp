@@ -53,9 +53,10 @@ int main(int argc, char** argv) {
     if (!window->Create()) {
         return EndStart(window->SkinPathTried());
     }
+    window->SetClosed([] { QApplication::quit(); });
     quorix::QtWaitCursor waitCursor;
     quorix::SetBusySignal([&waitCursor](bool busy) { busy ? waitCursor.Show() : waitCursor.Hide(); });
-    const quorix::TerminationRequests termination([&window] { window->close(); });
+    const quorix::TerminationRequests termination([&window] { window->Quit(); });
     window->show();
     return QApplication::exec();
 }

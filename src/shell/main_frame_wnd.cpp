@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QMessageBox>
 #include <QPainter>
+#include <QTimer>
 #include <iostream>
 #include <optional>
 
@@ -64,6 +65,7 @@ MainFrameWnd::MainFrameWnd(const std::filesystem::path& programFolder, SoundPlay
     setWindowTitle(QStringLiteral("Quorix"));
     setFocusPolicy(Qt::StrongFocus);
     setAccessibleName(windowTitle());
+    StandAlone();
     MakeCellsAccessible();
 }
 
@@ -98,11 +100,20 @@ std::filesystem::path MainFrameWnd::SkinPathTried() const {
     return folder_ / std::filesystem::path(kInterfacesFolder) / std::filesystem::path(skin_.SkinFile());
 }
 
+void MainFrameWnd::Quit() {
+    if (ground_) {
+        ToggleFullScreen();
+    }
+    // A window that has just become one of its own closes as such from the message loop only.
+    QTimer::singleShot(0, this, &QWidget::close);
+}
+
 void MainFrameWnd::Raise() {
-    setWindowState(windowState() & ~Qt::WindowMinimized);
-    show();
-    raise();
-    activateWindow();
+    QWidget* const top = window();
+    top->setWindowState(top->windowState() & ~Qt::WindowMinimized);
+    top->show();
+    top->raise();
+    top->activateWindow();
 }
 
 bool MainFrameWnd::ApplyView() {
@@ -114,7 +125,7 @@ bool MainFrameWnd::ApplyView() {
     led_->SetTexButton(folder_ / "Resources" / (Scale() == 2 ? "TexButton_VGA.png" : "TexButton.png"));
     loadedDensity_ = 0;
     LayOut();
-    SetZoom(view_.Zoom());
+    SetZoom(ZoomNow());
     frame_->SetScreen(screen);
     for (const auto& module : modules_) {
         if (module) {
@@ -122,6 +133,35 @@ bool MainFrameWnd::ApplyView() {
         }
     }
     return skinRead;
+}
+
+/// On the whole screen the largest of the zooms that fits.
+double MainFrameWnd::ZoomNow() const {
+    if (!ground_) {
+        return view_.Zoom();
+    }
+    const double room = ground_->RoomFor({Place().Width(), Place().Height()});
+    double zoom = 1;
+    for (const double step : {1.5, 2.0}) {
+        zoom = step <= room ? step : zoom;
+    }
+    return zoom;
+}
+
+void MainFrameWnd::ToggleFullScreen() {
+    if (ground_) {
+        const auto ground = std::exchange(ground_, nullptr);
+        ground->GiveBack(*this);
+        ApplyView();
+        if (view_.position) {
+            move(*view_.position);
+        }
+    } else {
+        view_.position = pos();
+        ground_ = std::make_unique<FullScreenGround>(ToQColor(bodyColour_), [this] { Quit(); });
+        ground_->Take(*this);
+        ApplyView();
+    }
 }
 
 void MainFrameWnd::LoadColours() {
@@ -334,7 +374,7 @@ void MainFrameWnd::RunTool(Tool tool) {
         case Tool::preferences: OpenPreferences(); break;
         case Tool::help: OpenHelp(); break;
         case Tool::about: OpenAbout(); break;
-        case Tool::exit: close(); break;
+        case Tool::exit: Quit(); break;
         case Tool::count: break;
     }
 }
@@ -518,6 +558,9 @@ bool MainFrameWnd::DesktopKey(const QKeyEvent& event) {
         view_.zoomPercent = ZoomAfter(view_.zoomPercent, 1);
     } else if (control && event.key() == Qt::Key_Minus) {
         view_.zoomPercent = ZoomAfter(view_.zoomPercent, -1);
+    } else if (event.key() == Qt::Key_F11) {
+        ToggleFullScreen();
+        return true;
     } else if (event.key() == Qt::Key_F1) {
         OpenHelp();
         return true;
@@ -526,7 +569,7 @@ bool MainFrameWnd::DesktopKey(const QKeyEvent& event) {
             frame_->Settings().categoryOrder[static_cast<std::size_t>(event.key() - Qt::Key_1)]);
         return true;
     } else if (control && event.key() == Qt::Key_Q) {
-        close();
+        Quit();
         return true;
     } else {
         return control && (EditKey(event) || event.key() != Qt::Key_Control);
@@ -565,13 +608,18 @@ void MainFrameWnd::keyReleaseEvent(QKeyEvent* event) {
 void MainFrameWnd::closeEvent(QCloseEvent* event) {
     if (!closed_) {
         closed_ = true;
-        view_.position = pos();
+        if (!ground_) {
+            view_.position = pos();
+        }
         SaveViewSettings(folder_, view_);
         if (!frame_->SaveState()) {
             std::cerr << "quorix: the state could not be saved in " << folder_ << '\n';
         }
     }
     event->accept();
+    if (whenClosed_) {
+        whenClosed_();
+    }
 }
 
 }  // namespace quorix

@@ -14,6 +14,7 @@
 #include "platform/clock.h"
 #include "platform/help_viewer.h"
 #include "platform/qt/accessible_cells.h"
+#include "platform/qt/full_screen.h"
 #include "platform/qt/html_window.h"
 #include "platform/qt/qt_wait_cursor.h"
 #include "platform/qt/view_settings.h"
@@ -38,6 +39,10 @@ class MainFrameWnd : public WindowBase, public FrameHost, public ModuleSite, pub
     /// start-up then ends; SkinPathTried names the file.
     bool Create();
     [[nodiscard]] std::filesystem::path SkinPathTried() const;
+    /// Runs when the window has been closed and the state is saved: the program ends, whatever else is open.
+    void SetClosed(std::function<void()> closed) { whenClosed_ = std::move(closed); }
+    /// Ends the program from the message loop, saving the state.
+    void Quit();
     /// Shows the window before all others.
     void Raise();
     [[nodiscard]] CMainFrame& Frame() override { return *frame_; }
@@ -121,6 +126,8 @@ class MainFrameWnd : public WindowBase, public FrameHost, public ModuleSite, pub
     void LoadColours();
     void PreparePictures();
     void LayOut();
+    void ToggleFullScreen();
+    [[nodiscard]] double ZoomNow() const;
 
     std::filesystem::path folder_;
     SystemClock clock_;
@@ -143,7 +150,10 @@ class MainFrameWnd : public WindowBase, public FrameHost, public ModuleSite, pub
     std::unique_ptr<HintWnd> hint_;
     std::unique_ptr<TypeAheadWnd> names_;
     QPointer<MorvaneListBoxWnd> popup_;
+    /// There while the window fills the screen.
+    std::unique_ptr<FullScreenGround> ground_;
     bool closed_ = false;
+    std::function<void()> whenClosed_;
 };
 
 }  // namespace quorix

@@ -24,7 +24,8 @@ constexpr int kIconTop = 2;
 constexpr int kLabelTop = 24;
 constexpr int kGlyphSize = 16;
 constexpr int kGlyphGap = 2;
-constexpr int kSheetCorner = 8;
+/// Units that a sheet of another size keeps at its corners: the hair line above the tools lies within.
+constexpr int kSheetCorner = 30;
 constexpr int kFocusRadius = 4;
 constexpr int kTileLooks = 3;
 enum TileLook : int { TILE_PLAIN = 0, TILE_PRESSED = 1, TILE_CHOSEN = 2 };

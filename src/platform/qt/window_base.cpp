@@ -112,7 +112,7 @@ void WindowBase::ApplyPlace() {
     if (IsEmpty(place_)) {
         return;
     }
-    if (isWindow()) {
+    if (isWindow() || standsAlone_) {
         setFixedSize(Zoomed(place_.Width(), zoom_), Zoomed(place_.Height(), zoom_));
         return;
     }

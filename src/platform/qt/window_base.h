@@ -61,6 +61,9 @@ class WindowBase : public QWidget, public Timers {
     void Kill(int id) override;
 
   protected:
+    /// A main window keeps its size within a foreign one, too, which decides where it stands.
+    void StandAlone() { standsAlone_ = true; }
+
     /// Enters a message into the window's table; a later handler replaces an earlier one.
     void Handle(int message, MessageHandler handler);
 
@@ -87,6 +90,7 @@ class WindowBase : public QWidget, public Timers {
     [[nodiscard]] Point PenPoint(const QMouseEvent& event) const;
 
     int childId_;
+    bool standsAlone_ = false;
     int scale_ = 2;
     double zoom_ = 1.0;
     Rect place_;
