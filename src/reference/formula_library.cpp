@@ -28,6 +28,7 @@ constexpr std::array kChangeOrder = {kDescriptionFile, kDetailFile, kTreeFile, k
 
 constexpr std::string_view kNoFile = "The file cannot be read.";
 constexpr std::string_view kEmptyImport = "There is no formula in the file.";
+constexpr std::string_view kUnreadable = "The formula library cannot be read.";
 constexpr std::string_view kNotWritten = "The formulas cannot be saved.";
 constexpr std::string_view kFullLibrary = "The formula library is full.";
 
@@ -50,6 +51,7 @@ std::span<const std::uint8_t> BytesOf(const std::string& text) {
 }  // namespace
 
 FormulaLibrary::FormulaLibrary(fs::path folder) : folder_(std::move(folder)) {
+    RemoveAbandonedTemporaries(folder_);
     static_cast<void>(FinishChange());
 }
 
@@ -73,13 +75,28 @@ std::optional<FormulaDetail> FormulaLibrary::ReadDetail(FormulaId id, std::uint3
     return ParseFormulaDetail(BytesOrNone(File(kDetailFile)), id, offset);
 }
 
-FormulaFiles FormulaLibrary::Load() const {
+std::optional<FormulaFiles> FormulaLibrary::Load() const {
+    for (const std::u16string_view name : kChangeOrder) {
+        std::error_code error;
+        if (fs::exists(File(name), error) && !ReadWholeFile(File(name))) {
+            return std::nullopt;
+        }
+    }
     FormulaFiles files;
     files.index = ReadIndex();
     files.descriptions = BytesOrNone(File(kDescriptionFile));
     files.details = BytesOrNone(File(kDetailFile));
     files.tree = TextOf(BytesOrNone(File(kTreeFile)));
     return files;
+}
+
+void FormulaLibrary::KeepCopies() const {
+    for (const std::u16string_view name : kChangeOrder) {
+        fs::path kept = File(name);
+        kept += ".bad";
+        std::error_code error;
+        fs::copy_file(File(name), kept, fs::copy_options::overwrite_existing, error);
+    }
 }
 
 FormulaImportResult FormulaLibrary::ImportFormulas(const fs::path& path, bool append) {
@@ -98,9 +115,13 @@ FormulaImportResult FormulaLibrary::ImportFormulas(const fs::path& path, bool ap
     }
     FormulaFiles files;
     if (append && exists) {
-        files = Load();
+        auto loaded = Load();
+        if (!loaded) {
+            return {false, 0, {0, kUnreadable}};
+        }
+        files = std::move(*loaded);
         if (!ParseFormulaIndex(BytesOrNone(File(kIndexFile)))) {
-            KeepDamagedFile(File(kIndexFile));
+            KeepCopies();
         }
     }
     if (files.tree.empty()) {
@@ -123,16 +144,20 @@ bool FormulaLibrary::DeleteFormulas(const std::vector<FormulaId>& ids, const std
             marked.push_back(ids[k]);
         }
     }
-    FormulaFiles files = Load();
-    if (RemoveFormulas(files, marked) > 0) {
-        for (const std::u16string_view name : {kDescriptionFile, kDetailFile, kIndexFile}) {
-            fs::path kept = File(name);
-            kept += ".bad";
-            std::error_code error;
-            fs::copy_file(File(name), kept, fs::copy_options::overwrite_existing, error);
-        }
+    if (marked.empty()) {
+        return true;
     }
-    return Commit(files);
+    const auto indexBytes = ReadWholeFile(File(kIndexFile));
+    auto files = Load();
+    if (!files || !indexBytes || !ParseFormulaIndex(*indexBytes)) {
+        return false;
+    }
+    const std::vector<std::uint8_t> entriesFound = FormulaIndexBytes(files->index);
+    const bool indexEndsEarly = !std::equal(entriesFound.begin(), entriesFound.end(), indexBytes->begin());
+    if (RemoveFormulas(*files, marked) > 0 || indexEndsEarly) {
+        KeepCopies();
+    }
+    return Commit(*files);
 }
 
 bool FormulaLibrary::Commit(const FormulaFiles& files) {

@@ -46,7 +46,9 @@ class FormulaLibrary {
 
   private:
     [[nodiscard]] std::filesystem::path File(std::u16string_view name) const;
-    [[nodiscard]] FormulaFiles Load() const;
+    /// Nothing when one of the files is there and cannot be read.
+    [[nodiscard]] std::optional<FormulaFiles> Load() const;
+    void KeepCopies() const;
     bool Commit(const FormulaFiles& files);
     [[nodiscard]] bool FinishChange() const;
 

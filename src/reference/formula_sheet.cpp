@@ -151,7 +151,9 @@ std::u16string SubstituteSymbols(std::u16string_view form, std::span<const std::
     std::u16string text;
     while (!form.empty()) {
         if (const SymbolMatch match = LongestSymbol(form, symbols); match.length > 0) {
-            text.append(u"(").append(values[match.index]).append(u")");
+            // The language has no implied product and would take "2(3)" for 2.
+            const bool followsValue = !text.empty() && (IsDigit(text.back()) || text.back() == u')');
+            text.append(followsValue ? u"*(" : u"(").append(values[match.index]).append(u")");
             form.remove_prefix(match.length);
             continue;
         }

@@ -51,7 +51,8 @@ class FormulaSheet {
     bool mayChooseAngleUnit_ = true;
 };
 
-/// `form` with each symbol that stands as a word of its own replaced by "(value)". Words in front of a "("
+/// `form` with each symbol that stands as a word of its own replaced by "(value)", or
+/// "*(value)" right behind a number or another value. Words in front of a "("
 /// are functions and stay. Symbols and values have the same number of entries.
 std::u16string SubstituteSymbols(std::u16string_view form, std::span<const std::u16string> symbols,
                                  std::span<const std::u16string> values);

@@ -20,9 +20,9 @@ constexpr Replacement kReplacements[] = {
     {u"\\nu", u"ν"},    {u"\\xi", u"ξ"},     {u"\\pi", u"π"},    {u"\\rho", u"ρ"},    {u"\\sigma", u"σ"},
     {u"\\tau", u"τ"},   {u"\\varphi", u"φ"}, {u"\\phi", u"φ"},   {u"\\chi", u"χ"},    {u"\\psi", u"ψ"},
     {u"\\omega", u"ω"}, {u"\\Delta", u"Δ"},  {u"\\Theta", u"Θ"}, {u"\\Lambda", u"Λ"}, {u"\\Sigma", u"Σ"},
-    {u"\\Phi", u"Φ"},   {u"\\Omega", u"Ω"},  {u"\\cdot", u"·"},  {u"\\%", u"%"},      {u"^o", u"°"},
-    {u"^0", u"°"},      {u"^2", u"²"},       {u"^3", u"³"},      {u"\\", u""},        {u"{", u""},
-    {u"}", u""},        {u"_", u""},
+    {u"\\Phi", u"Φ"},   {u"\\Omega", u"Ω"},  {u"\\cdot", u"·"},  {u"\\%", u"%"},      {u"\\hat U", u"Û"},
+    {u"^o", u"°"},      {u"^0", u"°"},       {u"^2", u"²"},      {u"^3", u"³"},       {u"^4", u"⁴"},
+    {u"\\", u""},       {u"{", u""},         {u"}", u""},        {u"_", u""},
 };
 
 }  // namespace
