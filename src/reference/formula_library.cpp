@@ -32,10 +32,6 @@ constexpr std::string_view kUnreadable = "The formula library cannot be read.";
 constexpr std::string_view kNotWritten = "The formulas cannot be saved.";
 constexpr std::string_view kFullLibrary = "The formula library is full.";
 
-std::u16string TemporaryName(std::u16string_view name) {
-    return std::u16string(kTemporaryPrefix).append(name);
-}
-
 std::vector<std::uint8_t> BytesOrNone(const fs::path& path) {
     return ReadWholeFile(path).value_or(std::vector<std::uint8_t>());
 }
@@ -57,6 +53,10 @@ FormulaLibrary::FormulaLibrary(fs::path folder) : folder_(std::move(folder)) {
 
 fs::path FormulaLibrary::File(std::u16string_view name) const {
     return ResolvePath(folder_, name);
+}
+
+fs::path FormulaLibrary::Temporary(std::u16string_view name) const {
+    return folder_ / std::u16string(kTemporaryPrefix).append(name);
 }
 
 std::vector<FormulaIndexEntry> FormulaLibrary::ReadIndex() const {
@@ -170,7 +170,7 @@ bool FormulaLibrary::Commit(const FormulaFiles& files) {
     const std::array<std::span<const std::uint8_t>, kChangeOrder.size()> contents = {
         files.descriptions, files.details, BytesOf(files.tree), index};
     for (std::size_t i = 0; i < kChangeOrder.size(); ++i) {
-        if (!WriteFileAtomically(File(TemporaryName(kChangeOrder[i])), contents[i])) {
+        if (!WriteFileAtomically(Temporary(kChangeOrder[i]), contents[i])) {
             static_cast<void>(FinishChange());
             return false;
         }
@@ -180,9 +180,9 @@ bool FormulaLibrary::Commit(const FormulaFiles& files) {
 
 bool FormulaLibrary::FinishChange() const {
     std::error_code error;
-    const bool complete = fs::exists(File(TemporaryName(kIndexFile)), error);
+    const bool complete = fs::exists(Temporary(kIndexFile), error);
     for (const std::u16string_view name : kChangeOrder) {
-        const fs::path temporary = File(TemporaryName(name));
+        const fs::path temporary = Temporary(name);
         if (!fs::exists(temporary, error)) {
             continue;
         }

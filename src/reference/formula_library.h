@@ -46,6 +46,8 @@ class FormulaLibrary {
 
   private:
     [[nodiscard]] std::filesystem::path File(std::u16string_view name) const;
+    /// The program's own file, named as written; the others are found whatever their case.
+    [[nodiscard]] std::filesystem::path Temporary(std::u16string_view name) const;
     /// Nothing when one of the files is there and cannot be read.
     [[nodiscard]] std::optional<FormulaFiles> Load() const;
     void KeepCopies() const;
