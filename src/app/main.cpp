@@ -11,8 +11,8 @@
 #include "matrix/matrix_operators.h"
 #include "platform/program_folder.h"
 #include "platform/qt/fonts.h"
+#include "platform/qt/lazy_sound.h"
 #include "platform/qt/qt_help_viewer.h"
-#include "platform/qt/qt_sound.h"
 #include "platform/qt/qt_wait_cursor.h"
 #include "platform/qt/single_instance.h"
 #include "platform/qt/termination.h"
@@ -47,7 +47,7 @@ int main(int argc, char** argv) {
     if (!instance.TryBecomeFirst()) {
         return 0;
     }
-    quorix::QtSoundPlayer sound;
+    quorix::LazySound sound;
     quorix::QtHelpViewer helpViewer;
     window.emplace(folder, &sound, &helpViewer);
     if (!window->Create()) {
