@@ -66,9 +66,4 @@ SolarDate ReadDateText(std::u16string_view text, DateOrder order) {
     return {ReadPart((*parts)[2]), dayFirst ? second : first, dayFirst ? first : second};
 }
 
-std::u16string SwapDayAndMonth(std::u16string_view text) {
-    const auto parts = ThreeParts(text);
-    return parts ? Joined((*parts)[1], (*parts)[0], (*parts)[2]) : std::u16string(kUnreadableDate);
-}
-
 }  // namespace quorix

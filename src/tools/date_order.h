@@ -25,7 +25,4 @@ inline constexpr std::u16string_view kUnreadableDate = u"1/1/1980";
 /// constructor does. A text with fewer than two "/" is read as "1/1/1980".
 SolarDate ReadDateText(std::u16string_view text, DateOrder order);
 
-/// `text` with its first two numbers exchanged; "1/1/1980" when it has fewer than two "/".
-std::u16string SwapDayAndMonth(std::u16string_view text);
-
 }  // namespace quorix
