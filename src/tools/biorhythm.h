@@ -22,7 +22,8 @@ std::int64_t DaysSinceBirth(const SolarDate& birth, const SolarDate& view);
 inline constexpr ColorRef kGraphAxisColor = MakeColor(0xC0, 0xC0, 0xC0);
 
 /// What a window paints, in its own coordinates: white ground, an outline one point outside, two axes that
-/// are one point longer at each end, and the curves in the order of kCycles, one display unit wide.
+/// are one point longer at each end (both end points belong to them), and the curves in the order of kCycles,
+/// one display unit wide.
 struct BiorhythmGraph {
     Rect ground;
     Rect outline;

@@ -5,6 +5,7 @@
 #include <array>
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "tools/date_order.h"
@@ -69,5 +70,13 @@ inline constexpr std::u16string_view kShowGoodLabel = u"Show good day";
 inline constexpr std::u16string_view kShowBadLabel = u"Show bad day";
 inline constexpr std::u16string_view kForTheNextLabel = u"for the next";
 inline constexpr std::u16string_view kYearsLabel = u"years";
+
+struct ImportantDatesColumn {
+    std::u16string_view title;
+    /// Logical units.
+    int width;
+};
+inline constexpr std::array<ImportantDatesColumn, 2> kImportantDatesColumns = {
+    {{u"Date", 100}, {u"Biorythm", 150}}};
 
 }  // namespace quorix

@@ -96,18 +96,6 @@ TEST(BiorhythmCurve, ReadsThePercentageHalfADayOn) {
     }
 }
 
-TEST(Biorhythm, PaintsWithinItsRectangle) {
-    testing::FakeClock clock;
-    Biorhythm biorhythm(clock);
-    const BiorhythmGraph graph = biorhythm.Draw({10, 20, 110, 70}, {2000, 1, 1}, {2000, 1, 6});
-    EXPECT_EQ(graph.outline, (Rect{9, 19, 111, 71}));
-    EXPECT_EQ(graph.horizontalAxis[0], (Point{9, 45}));
-    EXPECT_EQ(graph.verticalAxis[1], (Point{60, 71}));
-    EXPECT_EQ(graph.curves[0].points.front().x, 10);
-    EXPECT_EQ(graph.curves[0].points.back().x, 110);
-    EXPECT_GT(biorhythm.Percentages()[0], 99.0F);
-}
-
 TEST(Biorhythm, ReportsInFixedWords) {
     testing::FakeClock clock;
     Biorhythm biorhythm(clock);
