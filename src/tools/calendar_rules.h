@@ -25,7 +25,8 @@ constexpr std::int64_t FloorDivide(std::int64_t dividend, std::int64_t divisor) 
     return dividend / divisor - (dividend % divisor < 0 ? 1 : 0);
 }
 constexpr std::int64_t FloorModulo(std::int64_t dividend, std::int64_t divisor) {
-    return dividend - FloorDivide(dividend, divisor) * divisor;
+    const std::int64_t rest = dividend % divisor;
+    return rest < 0 ? rest + divisor : rest;
 }
 
 struct CivilDay {

@@ -71,7 +71,7 @@ void SolarDate::Add(std::int64_t n, std::int64_t perDay, std::int64_t seconds) {
     SetClamped(year, month, day, hour, minute, second);
     const std::int64_t wholeDays = FloorDivide(n, perDay);
     const std::int64_t time =
-        hour * 3600 + minute * 60 + second + (n - wholeDays * perDay) * seconds;  // below two days
+        hour * 3600 + minute * 60 + second + FloorModulo(n, perDay) * seconds;  // below two days
     // A count beyond the calendar's ends means its end; this also keeps the sum below from overflowing.
     const std::int64_t span = kLastSerial - kFirstSerial;
     const std::int64_t serial = DaySerial(year, month, day) + std::clamp(wholeDays, -span - 1, span) +
