@@ -209,7 +209,8 @@ void DateCtrl::Step(int direction) {
     typed_.clear();
     solarBefore_ = solar_;
     lunarBefore_ = lunar_;
-    const std::int32_t value = Value(selected_) + (direction < 0 ? -1 : 1);
+    // A computed date may lie far behind the years that are stepped through.
+    const std::int32_t value = std::clamp(Value(selected_), -1, kLastYear) + (direction < 0 ? -1 : 1);
     const auto around = [value](std::int32_t low, std::int32_t high) {
         return value < low ? high : value > high ? low : value;
     };

@@ -77,6 +77,10 @@ TEST(DateCtrl, StepsAndMovesAmongParts) {
     EXPECT_EQ(field.Selected(), DatePart::second);
     field.Step(-1);
     EXPECT_EQ(field.Solar().second, 59);
+    field.Set({2147483647, 12, 31});  // as a computed date may be
+    field.SelectAt(10);
+    field.Step(1);
+    EXPECT_EQ(field.Solar(), SolarDate(9999, 12, 31));
 }
 
 TEST(DateFields, ShowTheSameDayInBothCalendars) {
