@@ -26,6 +26,15 @@ void Picture::Lay(const QColor& color, const std::function<void(QPainter&)>& pai
 
 namespace {
 
+/// From this scale on edges have 16 steps of coverage, which is more than the eye finds there, and files half
+/// as large.
+constexpr int kDenseScale = 3;
+constexpr int kDenseStep = 17;
+
+int StepOf(int coverage, int scale) {
+    return scale < kDenseScale ? coverage : (coverage + kDenseStep / 2) / kDenseStep * kDenseStep;
+}
+
 /// Source-over of `color` at `coverage` on a pixel of straight alpha.
 QRgb Over(QRgb below, const QColor& color, int coverage) {
     const double top = coverage / 255.0;
@@ -54,7 +63,7 @@ void Picture::LayInPixels(const QColor& color, const std::function<void(QPainter
         const auto* from = reinterpret_cast<const QRgb*>(mask.constScanLine(y));
         auto* to = reinterpret_cast<QRgb*>(image_.scanLine(y));
         for (int x = 0; x < image_.width(); ++x) {
-            if (const int coverage = qAlpha(from[x]); coverage != 0) {
+            if (const int coverage = StepOf(qAlpha(from[x]), scale_); coverage != 0) {
                 to[x] = Over(to[x], color, coverage);
             }
         }

@@ -10,7 +10,7 @@ namespace quorix::art {
 
 namespace {
 
-constexpr const char* kColorFile = "Colors";
+constexpr const char* kColorFile = "Colors.txt";
 
 void WriteText(const QString& path, const QString& text) {
     QFile file(path);
@@ -21,7 +21,7 @@ void WriteText(const QString& path, const QString& text) {
 
 void WriteStrip(const Strip& strip, const Tools& tools, const QString& folder) {
     for (const int scale : ScalesOf(strip)) {
-        WritePng(DrawStrip(strip, tools, scale), folder + "/" + strip.key + ScaleMark(scale) + ".png");
+        WritePng(DrawStrip(strip, tools, scale), folder + "/" + NameAtScale(FileNameOf(strip), scale));
     }
 }
 
@@ -44,7 +44,7 @@ void WriteSkin(const Tools& tools, const QString& interfaces) {
     };
     for (const Strip& strip : SkinStrips()) {
         WriteStrip(strip, tools, folder);
-        add(strip.key, QString(strip.key) + ".png");
+        add(strip.key, FileNameOf(strip));
     }
 
     QString colors;
@@ -52,9 +52,9 @@ void WriteSkin(const Tools& tools, const QString& interfaces) {
         colors += QString("%1 = %2,%3,%4\r\n").arg(key).arg(color.red()).arg(color.green()).arg(color.blue());
     }
     for (const int scale : {1, 2}) {
-        WriteText(folder + "/" + kColorFile + ScaleMark(scale) + ".txt", colors);
+        WriteText(folder + "/" + NameAtScale(kColorFile, scale), colors);
     }
-    add("BoderColores", QString(kColorFile) + ".txt");
+    add("BoderColores", kColorFile);
     WriteText(interfaces + "/" + tools.palette.SkinName() + ".inf", skin);
 }
 

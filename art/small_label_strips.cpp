@@ -1,5 +1,7 @@
 #include "frontends/key_labels.h"
 #include "icons.h"
+#include "key_glyphs.h"
+#include "keys.h"
 #include "label_layout.h"
 #include "page_keys.h"
 #include "strips.h"
@@ -21,15 +23,10 @@ constexpr double kPlainBaseline = 20.9;
 constexpr double kOrangeEm = 9;
 constexpr double kOrangeBaseline = 7.9;
 
-// The chooser's icon and caret, and the caret behind a word.
-constexpr QPointF kChooserIconAt(2, 2);
-constexpr double kChooserIconSize = 20;
-constexpr double kCapIconWeight = 1.8 / 1.7;
-constexpr QPointF kChooserCaretAt(16.2, 0);
+// The caret behind a word.
 constexpr QPointF kWordCaretAt(16.5, 4.75);
 constexpr double kWordWithCaretMiddle = 13.5;
 
-constexpr IconStroke kCaret[] = {{Ink::kMain, 1.4, "M9.4 10.7 L12 13.3 L14.6 10.7"}};
 constexpr double kIconGrid = 24;
 
 const char* StyleOfCell(int cell) {
@@ -39,17 +36,6 @@ const char* StyleOfCell(int cell) {
 
 QPointF OriginOf(int cell) {
     return {cell * kLabelWidth, 0};
-}
-
-void LayCaret(Picture& picture, QPointF at, const QColor& color) {
-    LayIcon(picture, at, kCaret, kIconGrid, kIconGrid, {color, color});
-}
-
-void LayChooser(Picture& picture, const Tools& tools, int category) {
-    const QColor ink = tools.palette.Color("label.chooser");
-    LayIcon(picture, kChooserIconAt, kCategoryIcons[category], kIconGrid, kChooserIconSize,
-            {ink, tools.palette.Color("accent.chooser")}, kCapIconWeight);
-    LayCaret(picture, kChooserCaretAt, ink);
 }
 
 void LayShift(Picture& picture, const Tools& tools) {
@@ -72,7 +58,7 @@ void LayCell(Picture& picture, const Tools& tools, int category, int cell) {
     if (plain.ends_with(kCaretMark)) {
         plain.remove_suffix(1);
         centre = kWordWithCaretMiddle;
-        LayCaret(picture, origin + kWordCaretAt, color);
+        LayIcon(picture, origin + kWordCaretAt, kCaret, kIconGrid, kIconGrid, {color, color});
     }
     const bool two = !orange.empty();
     LayLabel(picture, tools.typeface, origin,
@@ -96,13 +82,20 @@ void LayCell(Picture& picture, const Tools& tools, int category, int cell) {
 }  // namespace
 
 void DrawSmallFonts(Picture& picture, const Tools& tools) {
-    LayChooser(picture, tools, 0);
+    LayChooser(picture, tools, OriginOf(0), 0);
     LayShift(picture, tools);
+}
+
+void DrawChooserLabels(Picture& picture, const Tools& tools) {
+    constexpr int kCategories = 16;
+    for (int category = 0; category < kCategories; ++category) {
+        LayChooser(picture, tools, OriginOf(category), category);
+    }
 }
 
 template <int category>
 void DrawSmallFontsPage(Picture& picture, const Tools& tools) {
-    LayChooser(picture, tools, category);
+    LayChooser(picture, tools, OriginOf(0), category);
     if (OwnLabelOfCell(category, 1, false).empty()) {
         LayShift(picture, tools);
     } else {

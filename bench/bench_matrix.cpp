@@ -2,11 +2,13 @@
 
 #include <Eigen/Dense>
 #include <random>
+#include <tuple>
 
 #include "matrix/determinant.h"
 #include "matrix/eigen.h"
 #include "matrix/inversion.h"
 #include "matrix/matrix_algebra.h"
+#include "matrix/qr_rounds.h"
 #include "ratio_report.h"
 
 namespace {
@@ -59,9 +61,15 @@ int main(int argc, char** argv) {
                             return copy;
                         }),
                         Loop([&] { return PeerMatrix(peer.inverse()); }), 2.5);
-    bench::RegisterPair(
-        "eigenvalues", Loop([] { return EigenvaluesOf(Sample().data, kSize); }),
-        Loop([&] { return Eigen::SelfAdjointEigenSolver<PeerMatrix>(peer, Eigen::ComputeEigenvectors); }),
-        45);
+    const auto peerEigen =
+        Loop([&] { return Eigen::SelfAdjointEigenSolver<PeerMatrix>(peer, Eigen::ComputeEigenvectors); });
+    bench::RegisterPair("eigenvalues", Loop([] { return EigenvaluesOf(Sample().data, kSize); }), peerEigen,
+                        45);
+    for (const auto& [name, width, goal] :
+         {std::tuple{"rounds, 4 wide", 4U, 45.0}, {"rounds, 2 wide", 2U, 80.0}}) {
+        bench::RegisterPair(
+            name, Loop([width = width] { return QrRounds(Sample().data, kSize, kQrRounds, width); }),
+            peerEigen, goal);
+    }
     return bench::RunPairs(argc, argv);
 }

@@ -4,13 +4,17 @@
 #include <QMessageBox>
 #include <QTimer>
 #include <iostream>
+#include <optional>
 
 #include "engine/busy_signal.h"
 #include "engine/eval_matrix.h"
 #include "matrix/matrix_operators.h"
 #include "platform/program_folder.h"
 #include "platform/qt/fonts.h"
+#include "platform/qt/lazy_sound.h"
+#include "platform/qt/qt_help_viewer.h"
 #include "platform/qt/qt_wait_cursor.h"
+#include "platform/qt/single_instance.h"
 #include "platform/qt/termination.h"
 #include "shell/main_frame_wnd.h"
 
@@ -37,13 +41,22 @@ int main(int argc, char** argv) {
     const std::filesystem::path installed = quorix::ExecutableFolder();
     quorix::LoadShippedFonts(installed / "fonts");
     QApplication::setFont(quorix::ScreenFont({}, 1));
-    quorix::MainFrameWnd window(quorix::FindProgramFolder(installed, quorix::UserDataFolder()));
-    if (!window.Create()) {
-        return EndStart(window.SkinPathTried());
+    const std::filesystem::path folder = quorix::FindProgramFolder(installed, quorix::UserDataFolder());
+    std::optional<quorix::MainFrameWnd> window;
+    quorix::SingleInstance instance(folder, [&window] { window->Raise(); });
+    if (!instance.TryBecomeFirst()) {
+        return 0;
     }
+    quorix::LazySound sound;
+    quorix::QtHelpViewer helpViewer;
+    window.emplace(folder, &sound, &helpViewer);
+    if (!window->Create()) {
+        return EndStart(window->SkinPathTried());
+    }
+    window->SetClosed([] { QApplication::quit(); });
     quorix::QtWaitCursor waitCursor;
     quorix::SetBusySignal([&waitCursor](bool busy) { busy ? waitCursor.Show() : waitCursor.Hide(); });
-    const quorix::TerminationRequests termination([&window] { window.close(); });
-    window.show();
+    const quorix::TerminationRequests termination([&window] { window->Quit(); });
+    window->show();
     return QApplication::exec();
 }

@@ -60,6 +60,7 @@ class CompiledExpression {
         tokens_.clear();
         numbers_.clear();
         for (const Token& token : postfix_) tokens_.push_back(Resolve(token, table));
+        JoinDividedFunctions(table);
         text_.assign(text);
         boundName_.assign(boundName);
         radix_ = radix;
@@ -99,6 +100,21 @@ class CompiledExpression {
         const int slot = FindVariable(word);
         if (slot >= 0) return {ResolvedKind::variable, static_cast<std::uint32_t>(slot)};
         return {ResolvedKind::unknown};
+    }
+
+    // A function and the "/" that has nothing but closing parentheses before it.
+    void JoinDividedFunctions(const OperatorTable<Value>& table) {
+        ResolvedToken<Value>* function = nullptr;
+        for (ResolvedToken<Value>& token : tokens_) {
+            if (token.kind == ResolvedKind::close) continue;
+            const bool isOperation = token.kind == ResolvedKind::operation;
+            if (function != nullptr && isOperation && token.row->name == u"/") {
+                const DividedFunction<Value>* divided = table.FindDivided(function->row->name);
+                function->row = &divided->function;
+                token.row = &divided->divide;
+            }
+            function = isOperation && table.FindDivided(token.row->name) != nullptr ? &token : nullptr;
+        }
     }
 
     bool isValid_ = false;

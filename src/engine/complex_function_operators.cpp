@@ -1,5 +1,6 @@
 #include "engine/complex_function_operators.h"
 
+#include "engine/arithmetic_operators.h"
 #include "engine/complex_angle.h"
 #include "engine/complex_operands.h"
 #include "numerics/constants.h"
@@ -107,6 +108,34 @@ void ScaleByTen(ComplexStack& stack) {
     FinishBinary(stack);
 }
 
+/// cosh of `argument`; an overflow of its own is told and not recorded.
+bool CoshOverflows(const QComplex& argument, QComplex& result) {
+    const int standing = NumericErrorFlag();
+    qccosh(argument, result);
+    const bool overflows = standing == NUMERIC_OK && NumericErrorFlag() == NUMERIC_OVERFLOW;
+    if (overflows) {
+        ClearNumericError();
+    }
+    return overflows;
+}
+
+/// number / cosh z = 2·number·e^-z where z is far to the right, and cosh is even. By halves of z, so that a
+/// large number meets no power that has vanished before the quotient does.
+void DivideByFarCosh(QComplex& number, QComplex z) {
+    if (!z.re.IsNegative()) {
+        qcneg(z);
+    }
+    qldexp(z.re, -1, z.re);
+    qldexp(z.im, -1, z.im);
+    QComplex half;
+    qcexp(z, half);
+    qcmul(number, half, number);
+    qcmul(number, half, number);
+    qcadd(number, number, number);
+    // What is below the smallest number is 0 without report.
+    ClearNumericError();
+}
+
 /// A real operand on top, or -54.
 bool HasRealOperand(const ComplexStack& stack, std::int32_t base) {
     if (!HasOperands(stack, base, 1)) {
@@ -194,16 +223,35 @@ void ComplexSech(ComplexStack& stack, std::int32_t base) {
         return;
     }
     const QComplex argument = AngleIn(stack.Top());
-    const int flag = NumericErrorFlag();
-    QComplex value;
-    qccosh(argument, value);
-    if (flag == NUMERIC_OK && NumericErrorFlag() == NUMERIC_OVERFLOW) {
-        ClearNumericError();
-        stack.Top() = {};
-    } else {
-        stack.Top() = Reciprocal(value);
-    }
+    stack.Top() = CoshOverflows(argument, stack.Top()) ? QComplex{} : Reciprocal(stack.Top());
     FoldNumericError();
+}
+
+void ComplexCoshArgument(ComplexStack& stack, std::int32_t base) {
+    if (HasOperands(stack, base, 1)) {
+        stack.Top() = AngleIn(stack.Top());
+    }
+}
+
+void ComplexDivideByCosh(ComplexStack& stack, std::int32_t base) {
+    if (!HasOperands(stack, base, 1)) {
+        return;
+    }
+    const QComplex argument = stack.Top();
+    if (!CoshOverflows(argument, stack.Top())) {
+        FoldNumericError();
+        if (calcContext().calcError == 0) {
+            ComplexDivide(stack, base);
+        }
+        return;
+    }
+    if (stack.depth - base < 2) {
+        calcContext().calcError = ERROR_INVALID_PARAMETER;
+        return;
+    }
+    KeepRightOperand(stack.Top());
+    --stack.depth;
+    DivideByFarCosh(stack.Top(), argument);
 }
 
 void ComplexLn(ComplexStack& stack, std::int32_t base) {
@@ -291,12 +339,8 @@ void ComplexFactorial(ComplexStack& stack, std::int32_t base) {
         return;
     }
     // A fractional part is cut off: 2.5! is 2. This is intended.
-    top = constants::kComplexOne;
-    QReal factor;
-    for (std::int32_t n = 2; n <= last; ++n) {
-        ltoq(n, factor);
-        qmul(factor, top.re, top.re);
-    }
+    top = {};
+    qfactorial(static_cast<std::uint16_t>(last), top.re);
     FoldNumericError();
 }
 

@@ -24,6 +24,10 @@ void ComplexAsec(ComplexStack& stack, std::int32_t base);
 void ComplexAcsc(ComplexStack& stack, std::int32_t base);
 void ComplexSinh(ComplexStack& stack, std::int32_t base);
 void ComplexCosh(ComplexStack& stack, std::int32_t base);
+/// The two rows of "a/cosh(x)": x in radians, and the quotient by its hyperbolic cosine, which is right where
+/// that overflows: 3/cosh(20000) is 0 as sech(20000) is.
+void ComplexCoshArgument(ComplexStack& stack, std::int32_t base);
+void ComplexDivideByCosh(ComplexStack& stack, std::int32_t base);
 void ComplexTanh(ComplexStack& stack, std::int32_t base);
 /// 0 where the hyperbolic cosine overflows.
 void ComplexSech(ComplexStack& stack, std::int32_t base);

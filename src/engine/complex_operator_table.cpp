@@ -62,7 +62,11 @@ constexpr auto kRows = std::to_array<OperatorRow<QComplex>>({
 });
 static_assert(kRows.size() == 47);
 
-constexpr OperatorTable<QComplex> kTable(kRows);
+constexpr auto kDivided = std::to_array<DividedFunction<QComplex>>({
+    {{u"cosh", 1, ComplexCoshArgument}, {u"/", 2, ComplexDivideByCosh}},
+});
+
+constexpr OperatorTable<QComplex> kTable(kRows, kDivided);
 
 }  // namespace
 

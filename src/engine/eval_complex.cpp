@@ -1,7 +1,5 @@
 #include "engine/eval_complex.h"
 
-#include <algorithm>
-
 #include "engine/compiled_expression.h"
 #include "engine/complex_operator_table.h"
 #include "engine/euler_number.h"
@@ -43,49 +41,23 @@ class ComplexRun {
     }
 
     std::optional<QComplex> Run() {
-        const auto end = expression_.Tokens().end();
-        for (auto token = expression_.Tokens().begin(); token != end; ++token) {
-            switch (token->kind) {
+        for (const ResolvedToken<QComplex>& token : expression_.Tokens()) {
+            switch (token.kind) {
                 case ResolvedKind::operation:
-                    repeatRegisters().lastOperator = token->row->name;
-                    token->row->function(stack_, bases_.Innermost());
+                    repeatRegisters().lastOperator = token.row->name;
+                    token.row->function(stack_, bases_.Innermost());
                     break;
                 case ResolvedKind::open: bases_.Open(stack_.depth); break;
                 case ResolvedKind::close: bases_.Close(); break;
-                default: PushValue(*token); break;
+                default: PushValue(token); break;
             }
-            if (context_.calcError != 0 && !DividesByFarCosh(token, end)) return std::nullopt;
+            if (context_.calcError != 0) return std::nullopt;
         }
         // The first entry is the result, whatever the depth: "3 4" is 3.
         return stack_.depth > 0 ? stack_.entries[0] : QComplex{};
     }
 
   private:
-    using TokenIterator = std::vector<ResolvedToken<QComplex>>::const_iterator;
-
-    // 1/cosh of a large argument is 0 without error, as sech is. Moves `token` from the "cosh" that has
-    // overflowed to the "/" behind it, when a quotient below the smallest number is all that comes of it.
-    bool DividesByFarCosh(TokenIterator& token, TokenIterator end) {
-        if (token->kind != ResolvedKind::operation || token->row->name != u"cosh" || stack_.depth < 2)
-            return false;
-        const bool overflowed = stack_.Top().re.words[1] == QReal::kLargestExponent ||
-                                stack_.Top().im.words[1] == QReal::kLargestExponent;
-        const auto next = std::find_if(token + 1, end, [](const ResolvedToken<QComplex>& behind) {
-            return behind.kind != ResolvedKind::close;
-        });
-        const bool divides = next != end && next->kind == ResolvedKind::operation && next->row->name == u"/";
-        QReal numerator;
-        qcabs(stack_.Top(1), numerator);
-        if (!overflowed || !divides || numerator.words[1] > QReal::kExponentOfOne) return false;
-        for (; token + 1 != next; ++token) bases_.Close();
-        if (stack_.depth - bases_.Innermost() < 2) return false;
-        token = next;
-        --stack_.depth;
-        stack_.Top() = {};
-        ClearCalcError();
-        return true;
-    }
-
     void PushValue(const ResolvedToken<QComplex>& token) {
         ClearNumericError();
         switch (token.kind) {

@@ -10,6 +10,7 @@
 #include "engine/engine_errors.h"
 #include "engine/variable_store.h"
 #include "numerics/qcore.h"
+#include "numerics/qfunctions.h"
 
 namespace quorix {
 
@@ -35,15 +36,36 @@ double Mean(Values x) {
     return Sum(x) / Count(x);
 }
 
-/// n ssq - sum², which rounding may push below 0.
-double ScaledVariance(Values x) {
-    return std::fmax(0.0, Count(x) * SumOfSquares(x) - Sum(x) * Sum(x));
+QReal Extended(double value) {
+    QReal extended;
+    etoq(value, extended);
+    return extended;
+}
+
+/// Square root of (n ssq - sum²) over n · divisor. In extended reals: doubles would lose the difference where
+/// the values lie close together, and the squares of large ones.
+double Deviation(Values x, double divisor) {
+    QReal sum, squares, square, count = Extended(Count(x));
+    for (const double value : x) {
+        const QReal v = Extended(value);
+        qadd(v, sum, sum);
+        qmul(v, v, square);
+        qadd(square, squares, squares);
+    }
+    qmul(sum, sum, sum);
+    qmul(count, squares, squares);
+    qsub(sum, squares, squares);
+    if (squares.IsNegative()) return 0.0;
+    qmul(Extended(divisor), count, count);
+    qdiv(count, squares, squares);
+    qsqrt(squares, squares);
+    return qtoe(squares);
 }
 double PopulationDeviation(Values x) {
-    return std::sqrt(ScaledVariance(x) / (Count(x) * Count(x)));
+    return Deviation(x, Count(x));
 }
 double SampleDeviation(Values x) {
-    return x.size() < 2 ? Fail(ERROR_DIVISION) : std::sqrt(ScaledVariance(x) / (Count(x) * (Count(x) - 1.0)));
+    return x.size() < 2 ? Fail(ERROR_DIVISION) : Deviation(x, Count(x) - 1.0);
 }
 
 double Smallest(Values x) {
@@ -53,11 +75,19 @@ double Largest(Values x) {
     return *std::max_element(x.begin(), x.end());
 }
 
+/// In extended reals, since the rounding of the mean would weigh as much as small deviations.
 double MeanDeviation(Values x) {
-    const double mean = Mean(x);
-    return std::accumulate(x.begin(), x.end(), 0.0,
-                           [mean](double sum, double v) { return sum + std::fabs(v - mean); }) /
-           Count(x);
+    QReal mean, sum, distance;
+    const QReal count = Extended(Count(x));
+    for (const double value : x) qadd(Extended(value), mean, mean);
+    qdiv(count, mean, mean);
+    for (const double value : x) {
+        qsub(mean, Extended(value), distance);
+        qabs(distance);
+        qadd(distance, sum, sum);
+    }
+    qdiv(count, sum, sum);
+    return qtoe(sum);
 }
 
 double SumOfSquaredDeviations(Values x) {
@@ -90,11 +120,18 @@ double Mode(Values x) {
 }
 
 double GeometricMean(Values x) {
-    const double product = std::accumulate(x.begin(), x.end(), 1.0, std::multiplies<>());
-    if (product >= 0.0) {
-        return std::pow(product, 1.0 / Count(x));
+    const bool isNegative = std::count_if(x.begin(), x.end(), [](double v) { return v < 0.0; }) % 2 == 1;
+    if (std::find(x.begin(), x.end(), 0.0) != x.end()) return 0.0;
+    if (isNegative && x.size() % 2 == 0) return Fail(ERROR_SQUARE_ROOT);
+    const double product = std::fabs(std::accumulate(x.begin(), x.end(), 1.0, std::multiplies<>()));
+    double mean = std::pow(product, 1.0 / Count(x));
+    if (!std::isnormal(product)) {
+        // The product leaves the doubles where the mean does not.
+        mean = std::exp(std::accumulate(x.begin(), x.end(), 0.0,
+                                        [](double sum, double v) { return sum + std::log(std::fabs(v)); }) /
+                        Count(x));
     }
-    return x.size() % 2 == 0 ? Fail(ERROR_SQUARE_ROOT) : -std::pow(-product, 1.0 / Count(x));
+    return isNegative ? -mean : mean;
 }
 
 struct StatisticRow {

@@ -71,13 +71,23 @@ struct OperatorRow<DComplex> {
     RealOperation realOfTwo = nullptr;
 };
 
+/// A function that is divided by at once: "a/f(x)" takes both rows together instead of f and "/", where the
+/// quotient has a value though f(x) has none.
+template <class Value>
+struct DividedFunction {
+    OperatorRow<Value> function;
+    OperatorRow<Value> divide;
+};
+
 /// A table of operators searched by name; of rows with the same name the first one is found. The rows are not
 /// copied. At most 120 rows.
 template <class Value>
 class OperatorTable {
   public:
     constexpr OperatorTable() = default;
-    constexpr explicit OperatorTable(std::span<const OperatorRow<Value>> rows) : rows_(rows) {
+    constexpr explicit OperatorTable(std::span<const OperatorRow<Value>> rows,
+                                     std::span<const DividedFunction<Value>> divided = {})
+        : rows_(rows), divided_(divided) {
         for (const OperatorRow<Value>& row : rows_) index_.Append(row.name);
     }
 
@@ -86,10 +96,18 @@ class OperatorTable {
         const int row = index_.Find(name, [this](std::size_t i) { return rows_[i].name; });
         return row < 0 ? nullptr : &rows_[static_cast<std::size_t>(row)];
     }
+    /// Null when a division by `function` is no more than its two rows.
+    [[nodiscard]] constexpr const DividedFunction<Value>* FindDivided(std::u16string_view function) const {
+        for (const DividedFunction<Value>& divided : divided_) {
+            if (divided.function.name == function) return &divided;
+        }
+        return nullptr;
+    }
     [[nodiscard]] constexpr std::span<const OperatorRow<Value>> Rows() const { return rows_; }
 
   private:
     std::span<const OperatorRow<Value>> rows_;
+    std::span<const DividedFunction<Value>> divided_;
     WordHash<256> index_;
 };
 

@@ -15,8 +15,7 @@ void RewriteLine(CLedDisplay& display, int toRadix) {
         return;
     }
     if (const auto converted = ConvertExpressionRadix(text, RadixOf(display.GetBase()), toRadix)) {
-        display.EraseLine();
-        display.Paste(ToDisplaySigns(*converted));
+        display.ReplaceLine(ToDisplaySigns(*converted));
     }
 }
 

@@ -1,47 +1,58 @@
 #include "frontends/context_menu.h"
 
-#include <algorithm>
-
-#include "engine/number_locale.h"
-
 namespace quorix {
 
-namespace {
-
-/// Other programs do not know the display's comma.
-std::u16string ForOtherPrograms(std::u16string_view line) {
-    std::u16string text(line);
-    std::replace(text.begin(), text.end(), kDisplayComma, u',');
-    return text;
+std::vector<ContextMenuItem> LineMenuOf(const ExpressionEditor& editor, Clipboard& clipboard) {
+    const bool hasLine = !editor.GetLine().empty();
+    const bool mayChange = editor.TakesEdits();
+    return {{MENU_CUT, u"Cut", hasLine && mayChange},
+            {MENU_COPY, u"Copy", hasLine},
+            {MENU_PASTE, u"Paste", mayChange && clipboard.HasText()},
+            {MENU_CLEAR, u"Clear", hasLine && mayChange}};
 }
 
-/// One line of what may be many, without control characters.
-std::u16string Pasteable(std::u16string text) {
-    text.resize(std::min(text.size(), kLongestLine));
-    std::erase_if(text, [](char16_t c) { return c < u' ' || c == u'\u007F'; });
-    return text;
-}
-
-}  // namespace
-
-std::array<ContextMenuItem, 4> ContextMenuOf(const CLedDisplay& display, Clipboard& clipboard) {
-    const bool hasLine = !display.GetLine().empty();
-    return {{{MENU_CUT, u"Cut", hasLine},
-             {MENU_COPY, u"Copy", hasLine},
-             {MENU_PASTE, u"Paste", clipboard.HasText()},
-             {MENU_CLEAR, u"Clear", hasLine}}};
-}
-
-void RunContextMenu(int id, CLedDisplay& display, Clipboard& clipboard) {
+void RunLineMenu(int id, ExpressionEditor& editor, Clipboard& clipboard) {
     switch (id) {
-        case MENU_CUT:
-            clipboard.PutText(ForOtherPrograms(display.GetLine()));
-            display.EraseLine();
-            break;
-        case MENU_COPY: clipboard.PutText(ForOtherPrograms(display.GetLine())); break;
-        case MENU_PASTE: display.Paste(Pasteable(clipboard.GetText())); break;
-        case MENU_CLEAR: display.EraseLine(); break;
+        case MENU_CUT: CutLine(editor, clipboard); break;
+        case MENU_COPY: CopyLine(editor, clipboard); break;
+        case MENU_PASTE: PasteLine(editor, clipboard); break;
+        case MENU_CLEAR: editor.EraseLine(); break;
         default: break;
+    }
+}
+
+std::vector<ContextMenuItem> ContextMenuOf(const CLedDisplay& display, Clipboard& clipboard,
+                                           const TexConverter& toTex) {
+    std::vector<ContextMenuItem> items = LineMenuOf(display, clipboard);
+    const bool stringMode = display.Settings().IsStringMode();
+    for (ContextMenuItem& item : items) {
+        // In the basic modes the line is a number: it can be copied, replaced, and cleared by the C key.
+        item.enabled = stringMode              ? item.enabled
+                       : item.id == MENU_PASTE ? clipboard.HasText()
+                                               : item.id != MENU_CUT && !display.GetLine().empty();
+    }
+    const bool hasResult = HasResult(display);
+    items.push_back({MENU_COPY_RESULT, u"Copy result", hasResult});
+    items.push_back({MENU_COPY_ALL_DIGITS, u"Copy all digits", hasResult});
+    items.push_back({MENU_COPY_TEX, u"Copy as TeX", toTex && stringMode && !display.GetLine().empty()});
+    return items;
+}
+
+void RunContextMenu(int id, CLedDisplay& display, Clipboard& clipboard, const TexConverter& toTex) {
+    const bool stringMode = display.Settings().IsStringMode();
+    switch (id) {
+        case MENU_PASTE: PasteShortcut(display, clipboard); break;
+        case MENU_CLEAR:
+            if (stringMode) {
+                display.EraseLine();
+            } else {
+                display.Key(KEY_CLEAR);
+            }
+            break;
+        case MENU_COPY_RESULT: CopyResult(display, clipboard); break;
+        case MENU_COPY_ALL_DIGITS: CopyAllDigits(display, clipboard); break;
+        case MENU_COPY_TEX: CopyTex(display, clipboard, toTex); break;
+        default: RunLineMenu(id, display, clipboard); break;
     }
 }
 

@@ -85,7 +85,59 @@ inline constexpr Rgb kNameToken = 0x800000;
 /// Digits and points directly before a root sign.
 inline constexpr Rgb kDegreeToken = 0xFF0080;
 
+/// Field of an expression box without the keyboard.
+inline constexpr Rgb kResting = 0xD0D0F0;
+/// All text of an expression box that is marked.
+inline constexpr Rgb kMarkedText = 0x0000FF;
+
 }  // namespace display_colors
+
+/// The twenty colours of an editor, in the order in which they are counted.
+enum class DisplayColour : std::uint8_t {
+    lineNumber,
+    shift,
+    memory,
+    base,
+    angle,
+    format,
+    wordSize,
+    pendingOperator,
+    arrow,
+    cursor,
+    text,
+    texButton,
+    field,  ///< 12: the ground of the display, and of an expression box with the keyboard.
+    digitToken,
+    operatorToken,
+    parenthesisToken,
+    signToken,
+    nameToken,
+    degreeToken,
+    restingField,  ///< 19: the ground of an expression box without the keyboard.
+    count
+};
+
+inline constexpr std::size_t kDisplayColourCount = static_cast<std::size_t>(DisplayColour::count);
+static_assert(kDisplayColourCount == 20);
+
+/// Colours by DisplayColour.
+struct DisplayColours : std::array<Rgb, kDisplayColourCount> {
+    constexpr Rgb operator[](DisplayColour which) const { return at(static_cast<std::size_t>(which)); }
+    constexpr Rgb& operator[](DisplayColour which) { return at(static_cast<std::size_t>(which)); }
+};
+
+inline constexpr DisplayColours kDisplayColours = {{{
+    display_colors::kText,          display_colors::kShift,
+    display_colors::kMemory,        display_colors::kBase,
+    display_colors::kAngle,         display_colors::kFormat,
+    display_colors::kWordSize,      display_colors::kPendingOperator,
+    display_colors::kArrow,         display_colors::kCursor,
+    display_colors::kText,          display_colors::kText,
+    display_colors::kBackground,    display_colors::kDigitToken,
+    display_colors::kOperatorToken, display_colors::kParenthesisToken,
+    display_colors::kSignToken,     display_colors::kNameToken,
+    display_colors::kDegreeToken,   display_colors::kResting,
+}}};
 
 /// Logical units of the text row that tokens may fill, and those kept free for the cursor behind the last
 /// one.

@@ -146,13 +146,17 @@ void CLedDisplay::StoreBasicLine() {
     }
 }
 
-void CLedDisplay::RecallInBasic() {
+void CLedDisplay::EnterValue(const QComplex& value) {
     ClearLine();
-    const QComplex value = MemoryValue(CurrentMemory(), base_);
     KeyEngineSetEntryState(ENTRY_NONE);
     KeyEnginePush(value);
     basicValue_ = value;
     ShowBasicValue(value, FORMAT_NORM, true);
+    Invalidate();
+}
+
+void CLedDisplay::RecallInBasic() {
+    EnterValue(MemoryValue(CurrentMemory(), base_));
 }
 
 void CLedDisplay::FinishBasicKey(std::int32_t code) {
@@ -160,8 +164,8 @@ void CLedDisplay::FinishBasicKey(std::int32_t code) {
         KeyEngineClearImaginary();
     }
     const bool equals = code == KEY_EQUALS && settings_.inputMode == kModeBasic;
-    if (equals && parent_.hideToolTip) {
-        parent_.hideToolTip();
+    if (equals) {
+        HideToolTip();
     }
     ShowBasicValue(basicValue_, equals ? format_ : std::int32_t{FORMAT_NORM}, !equals);
 }

@@ -7,7 +7,6 @@
 #include <string>
 
 #include "frontends/result_fit.h"
-#include "frontends/token_colors.h"
 #include "platform/qt/fonts.h"
 #include "platform/qt/pictures.h"
 
@@ -19,7 +18,6 @@ namespace {
 constexpr TextFont kStatusFont = {.em = 9, .weight = kRegularWeight};
 constexpr TextFont kNarrowStatusFont = {.em = 9, .weight = kRegularWeight, .condensed = true};
 constexpr TextFont kPendingFont = {.em = 12.5, .weight = kRegularWeight};
-constexpr TextFont kLineFont = {.em = 17, .weight = kMediumWeight};
 constexpr TextFont kResultFont = {.em = 15, .weight = kMediumWeight};
 constexpr TextFont kNarrowResultFont = {.em = 12.5, .weight = kMediumWeight, .condensed = true};
 constexpr TextFont kBinaryFont = {.em = 10.5, .weight = kMediumWeight, .condensed = true};
@@ -35,13 +33,10 @@ constexpr double kEqualsBaseline = 45.4;
 
 constexpr int kMarkInset = 1;      // A mark stands this far inside its rectangle,
 constexpr int kMarkClearance = 3;  // and at least this far from its end.
-constexpr int kCursorHeight = 2;
 constexpr int kFrameLines = 3;
 constexpr double kArrowWidth = 5;
 constexpr double kArrowInset = 4;  // From its rectangle's outer side to its tip.
 constexpr double kArrowHalfHeight = 5;
-
-constexpr char16_t kSeparator = 0x00B8;
 
 QColor ColorOf(Rgb color) {
     return QColor::fromRgb(color);
@@ -49,12 +44,6 @@ QColor ColorOf(Rgb color) {
 
 QRect ToQRect(const Rect& rect) {
     return {rect.left, rect.top, rect.Width(), rect.Height()};
-}
-
-/// Text as it is painted: the separator of number texts has the glyph of a comma.
-QString Painted(std::u16string_view text) {
-    QString painted = QString::fromUtf16(text.data(), static_cast<qsizetype>(text.size()));
-    return painted.replace(QChar(kSeparator), QLatin1Char(','));
 }
 
 double BaselineOf(double units, int scale) {
@@ -124,39 +113,28 @@ void LedPainter::SetTexButton(const DensePicture& picture) {
     texButton_ = ToQImage(picture);
 }
 
-double LedPainter::AdvanceOf(char16_t sign, int scale) {
-    if (advancesScale_ != scale) {
-        advances_.clear();
-        advancesScale_ = scale;
-    }
-    const auto [it, isNew] = advances_.try_emplace(sign, 0.0);
-    if (isNew) {
-        it->second = QFontMetricsF(ScreenFont(kLineFont, scale)).horizontalAdvance(Painted({&sign, 1}));
-    }
-    return it->second;
+LinePlace LedPainter::PlaceOfLine(int scale) {
+    const Rect row = DisplayPartRect(DisplayPart::textRow, scale);
+    return {.row = row,
+            .left = row.left + kTextRowInset * scale,
+            .baseline = BaselineOf(kLineBaseline, scale),
+            .endCursorWidth = kCursorRoom * scale};
 }
 
-std::vector<int> LedPainter::MeasureTokens(std::u16string_view line, std::u16string_view tokenLengths,
-                                           int scale) {
-    std::vector<int> widths;
-    widths.reserve(tokenLengths.size());
-    std::size_t at = 0;
-    for (const char16_t length : tokenLengths) {
-        const std::u16string_view token = line.substr(at, static_cast<std::size_t>(length - u'0'));
-        at += token.size();
-        double width = 0;
-        for (const char16_t sign : token) {
-            width += AdvanceOf(sign, scale);
-        }
-        widths.push_back(static_cast<int>(std::lround(width)));
-    }
+std::vector<int> LedPainter::UpdateView(CLedDisplay& display, int scale) {
+    std::vector<int> widths = line_.MeasureTokens(display.GetLine(), display.GetTokenLengths(), scale);
+    display.UpdateView(widths, scale);
     return widths;
+}
+
+Rect LedPainter::CursorRect(CLedDisplay& display, int scale) {
+    const std::vector<int> widths = UpdateView(display, scale);
+    return LinePainter::CursorRect(display.Line(), widths, PlaceOfLine(scale), scale);
 }
 
 void LedPainter::Paint(QPainter& painter, const Rect& size, CLedDisplay& display,
                        const DisplayFrameColours& frame, int scale) {
-    const std::vector<int> widths = MeasureTokens(display.GetLine(), display.GetTokenLengths(), scale);
-    display.UpdateView(widths, scale);
+    const std::vector<int> widths = UpdateView(display, scale);
     PaintFrame(painter, size, frame);
     painter.save();
     painter.setClipRect(ToQRect(size.Inset(kFrameLines)), Qt::IntersectClip);
@@ -196,7 +174,7 @@ void LedPainter::PaintStatus(QPainter& painter, const CLedDisplay& display, int 
         painter.setFont(ScreenFont(kPendingFont, scale));
         painter.setPen(ColorOf(display_colors::kPendingOperator));
         painter.drawText(QPointF(rect.left + kMarkInset * scale, BaselineOf(kPendingBaseline, scale)),
-                         Painted(display.PendingOperator()));
+                         PaintedText(display.PendingOperator()));
     }
 }
 
@@ -207,40 +185,7 @@ void LedPainter::PaintLine(QPainter& painter, const CLedDisplay& display, const 
             PaintArrow(painter, arrow, scale);
         }
     }
-    const TokenLine& line = display.Line();
-    const std::vector<Rgb> colors = ColorsOfLine(line.Text(), line.TokenLengths());
-    const Rect row = DisplayPartRect(DisplayPart::textRow, scale);
-    const double baseline = BaselineOf(kLineBaseline, scale);
-    painter.save();
-    painter.setClipRect(ToQRect(row), Qt::IntersectClip);
-    painter.setFont(ScreenFont(kLineFont, scale));
-
-    int left = row.left + kTextRowInset * scale;
-    int cursorLeft = left;
-    int cursorWidth = 0;
-    for (int k = line.FirstVisible(); k <= line.LastVisible() && k < line.TokenCount(); ++k) {
-        std::size_t at = line.OffsetOf(k);
-        double x = left;
-        for (const char16_t sign : line.Token(k)) {
-            painter.setPen(ColorOf(colors[at]));
-            painter.drawText(QPointF(x, baseline), Painted({&sign, 1}));
-            x += AdvanceOf(sign, scale);
-            ++at;
-        }
-        const int width = widths[static_cast<std::size_t>(k)];
-        if (k == line.Cursor()) {
-            cursorLeft = left;
-            cursorWidth = width;
-        }
-        left += width;
-    }
-    if (line.Cursor() >= line.TokenCount() && line.LastVisible() + 1 >= line.TokenCount()) {
-        cursorLeft = left;
-        cursorWidth = kCursorRoom * scale;
-    }
-    painter.fillRect(cursorLeft, row.bottom - kCursorHeight * scale, cursorWidth, kCursorHeight * scale,
-                     ColorOf(display_colors::kCursor));
-    painter.restore();
+    line_.Paint(painter, display.Line(), widths, kDisplayColours, PlaceOfLine(scale), scale);
 }
 
 void LedPainter::PaintResult(QPainter& painter, const CLedDisplay& display, int scale) const {
@@ -257,7 +202,7 @@ void LedPainter::PaintResult(QPainter& painter, const CLedDisplay& display, int 
     }
     const Rect row = DisplayPartRect(DisplayPart::resultRow, scale);
     const auto fits = [&](const QFont& font, std::u16string_view text) {
-        return QFontMetricsF(font).horizontalAdvance(Painted(text)) <= row.Width();
+        return QFontMetricsF(font).horizontalAdvance(PaintedText(text)) <= row.Width();
     };
     const bool isBinary = display.GetBase() == RADIX_BIN && display.GetWordSize() == WORD_32 &&
                           (result.front() == u'0' || result.front() == u'1');
@@ -268,7 +213,7 @@ void LedPainter::PaintResult(QPainter& painter, const CLedDisplay& display, int 
     }
     const double baseline = BaselineOf(isBinary || isNarrow ? kNarrowResultBaseline : kResultBaseline, scale);
     const QString text =
-        Painted(CutToFit(result, [&](std::u16string_view part) { return fits(font, part); }));
+        PaintedText(CutToFit(result, [&](std::u16string_view part) { return fits(font, part); }));
     painter.setFont(font);
     painter.drawText(QPointF(row.right - QFontMetricsF(font).horizontalAdvance(text), baseline), text);
 }

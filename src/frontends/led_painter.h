@@ -6,12 +6,12 @@
 #include <QFont>
 #include <QImage>
 #include <array>
-#include <map>
 #include <string_view>
 #include <vector>
 
 #include "frontends/display_layout.h"
 #include "frontends/led_display.h"
+#include "frontends/line_painter.h"
 #include "platform/color.h"
 #include "platform/dense_picture.h"
 
@@ -28,7 +28,11 @@ class LedPainter {
     void SetTexButton(const DensePicture& picture);
 
     /// Width of each token of a line in device pixels, for CLedDisplay::UpdateView.
-    std::vector<int> MeasureTokens(std::u16string_view line, std::u16string_view tokenLengths, int scale);
+    std::vector<int> MeasureTokens(std::u16string_view line, std::u16string_view tokenLengths, int scale) {
+        return line_.MeasureTokens(line, tokenLengths, scale);
+    }
+    /// The cursor's bar in device pixels of the display. Brings the view of the line up to date first.
+    Rect CursorRect(CLedDisplay& display, int scale);
 
     /// Draws the whole display into `size` (a rectangle at 0, 0). Brings the view of the line up to date
     /// first.
@@ -40,12 +44,11 @@ class LedPainter {
     void PaintLine(QPainter& painter, const CLedDisplay& display, const std::vector<int>& widths, int scale);
     void PaintResult(QPainter& painter, const CLedDisplay& display, int scale) const;
     void PaintTexButton(QPainter& painter, const CLedDisplay& display, int scale) const;
-    double AdvanceOf(char16_t sign, int scale);
+    std::vector<int> UpdateView(CLedDisplay& display, int scale);
+    static LinePlace PlaceOfLine(int scale);
 
     QImage texButton_;
-    /// Advances of the text row's signs at a scale, measured once.
-    std::map<char16_t, double> advances_;
-    int advancesScale_ = 0;
+    LinePainter line_{{.em = 17, .weight = kMediumWeight}};
 };
 
 }  // namespace quorix

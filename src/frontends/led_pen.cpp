@@ -41,22 +41,9 @@ bool CLedDisplay::GestureAllowedAt(Point point, int scale) const {
 }
 
 void CLedDisplay::TapTextRow(Point point, int scale) {
-    TokenLine& line = EditedLine();
-    int right = DisplayPartRect(DisplayPart::textRow, scale).left + kTextRowInset * scale;
-    const int known = static_cast<int>(tokenWidths_.size());
-    for (int k = line.FirstVisible(); k <= line.LastVisible() && k < known; ++k) {
-        right += tokenWidths_[Index(k)];
-        if (point.x < right) {
-            line.SetCursor(k);
-            Invalidate();
-            if (settings_.toolTipsEnabled != 0 && parent_.showToolTip) {
-                parent_.showToolTip(line.Token(k));
-            }
-            return;
-        }
-    }
-    line.MoveRight(line.TokenCount());
-    Invalidate();
+    const int start = DisplayPartRect(DisplayPart::textRow, scale).left + kTextRowInset * scale;
+    const int token = TokenAt(point.x - start);
+    SetCursor(token >= 0 ? token : Line().TokenCount());
 }
 
 void CLedDisplay::TapWordSize() {

@@ -3,6 +3,7 @@
 #include <QContextMenuEvent>
 #include <QCursor>
 #include <QMenu>
+#include <QMouseEvent>
 #include <QPainter>
 #include <cstdlib>
 
@@ -23,6 +24,11 @@ QString ToQString(std::u16string_view text) {
 }
 
 }  // namespace
+
+LedWnd::LedWnd(WindowBase* parent) : WindowBase(parent, kLedWindowId) {
+    setAccessibleName(QStringLiteral("display"));
+    MakeSpokenLinesAccessible();
+}
 
 void LedWnd::SetDisplay(CLedDisplay* display, int holdInterval) {
     display_ = display;
@@ -88,6 +94,48 @@ void LedWnd::OnPenUp(Point at) {
     }
 }
 
+Rect LedWnd::CursorRect() {
+    if (display_ == nullptr) {
+        return {};
+    }
+    const Rect bar = painter_.CursorRect(*display_, Scale());
+    return {bar.left + Place().left, bar.top + Place().top, bar.right + Place().left,
+            bar.bottom + Place().top};
+}
+
+void LedWnd::Copy(bool alwaysLine) {
+    if (display_ != nullptr) {
+        CopyShortcut(*display_, clipboard_, alwaysLine);
+    }
+}
+
+void LedWnd::PasteText() {
+    if (display_ != nullptr) {
+        PasteShortcut(*display_, clipboard_);
+    }
+}
+
+QString LedWnd::SpokenText() const {
+    if (display_ == nullptr) {
+        return {};
+    }
+    const QString line = PaintedText(display_->GetLine());
+    return display_->ShowsEquals() ? line + QStringLiteral(" = ") + PaintedText(display_->GetResultText())
+                                   : line;
+}
+
+void LedWnd::Announce() {
+    AnnounceText(*this, SpokenText());
+}
+
+void LedWnd::mousePressEvent(QMouseEvent* event) {
+    if (event->button() == Qt::MiddleButton) {
+        PasteText();
+    } else {
+        WindowBase::mousePressEvent(event);
+    }
+}
+
 void LedWnd::contextMenuEvent(QContextMenuEvent* event) {
     OpenContextMenu(event->globalPos());
 }
@@ -98,11 +146,11 @@ void LedWnd::OpenContextMenu(QPoint globalPosition) {
     }
     menuOpened_ = true;
     QMenu* const menu = NewPopupMenu(this, Scale() * Zoom());
-    for (const ContextMenuItem& item : ContextMenuOf(*display_, clipboard_)) {
+    for (const ContextMenuItem& item : ContextMenuOf(*display_, clipboard_, toTex_)) {
         QAction* const action = menu->addAction(ToQString(item.text));
         action->setEnabled(item.enabled);
         connect(action, &QAction::triggered, this,
-                [this, id = item.id] { RunContextMenu(id, *display_, clipboard_); });
+                [this, id = item.id] { RunContextMenu(id, *display_, clipboard_, toTex_); });
     }
     menu->popup(globalPosition);
 }

@@ -1,9 +1,9 @@
 #include "frontends/macro_file.h"
 
-#include <algorithm>
 #include <array>
 #include <optional>
 
+#include "platform/directory.h"
 #include "platform/files.h"
 #include "platform/path.h"
 
@@ -14,7 +14,6 @@ namespace {
 constexpr char16_t kSeparator = 6;
 constexpr std::size_t kFieldCount = 6;
 constexpr char16_t kByteOrderMark = 0xFEFF;
-constexpr std::u16string_view kExtension = u".mcr";
 
 std::optional<Macro> ParseRecord(std::u16string_view line) {
     std::array<std::u16string, kFieldCount> fields;
@@ -65,21 +64,6 @@ std::vector<std::uint8_t> ToBytes(std::u16string_view text) {
     return bytes;
 }
 
-std::vector<std::filesystem::path> MacroFilesIn(const std::filesystem::path& folder) {
-    std::vector<std::filesystem::path> files;
-    std::error_code error;
-    for (std::filesystem::directory_iterator entry(folder, error), end; !error && entry != end;
-         entry.increment(error)) {
-        std::error_code ignored;
-        if (EqualsIgnoringCase(entry->path().extension().u16string(), kExtension) &&
-            entry->is_regular_file(ignored)) {
-            files.push_back(entry->path());
-        }
-    }
-    std::sort(files.begin(), files.end());
-    return files;
-}
-
 }  // namespace
 
 std::vector<Macro> ParseMacroText(std::u16string_view text, bool& complete) {
@@ -119,7 +103,7 @@ std::u16string MacroText(const MacroList& macros) {
 }
 
 void MacroFiles::Load(MacroList& macros) {
-    for (const std::filesystem::path& path : MacroFilesIn(folder_)) {
+    for (const std::filesystem::path& path : ListFiles(folder_, u"*.mcr")) {
         const auto bytes = ReadWholeFile(path);
         if (!bytes) {
             continue;

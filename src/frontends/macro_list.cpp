@@ -220,6 +220,14 @@ std::u16string CallTextOf(const Macro& macro) {
     return macro.name + u"(" + parameters + u")";
 }
 
+CallTokens CallTokensOf(const Macro& macro) {
+    CallTokens call{macro.name + (macro.parameterCount == 0 ? u"()" : u"("), {}};
+    for (std::size_t at = 0; at < call.text.size(); at += kLongestToken) {
+        call.lengths += static_cast<char16_t>(u'0' + std::min(kLongestToken, call.text.size() - at));
+    }
+    return call;
+}
+
 bool ExpandMacros(const MacroList& macros, std::u16string& line) {
     if (Expand(macros, line, 0)) {
         return true;

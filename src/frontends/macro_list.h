@@ -48,6 +48,14 @@ class MacroList {
 /// "name(p1, p2)", as the function list and the hints show a macro.
 std::u16string CallTextOf(const Macro& macro);
 
+/// What choosing a macro puts into the line: its name with "(" (and ")" where it takes nothing), as few
+/// tokens as their length allows.
+struct CallTokens {
+    std::u16string text;
+    std::u16string lengths;
+};
+CallTokens CallTokensOf(const Macro& macro);
+
 /// Replaces every call of a macro in a display line by its body, parenthesised. Calls in arguments are
 /// expanded, those inside bodies are not. False, with calcError -52, when a call has unbalanced parentheses,
 /// too few arguments or too many levels. Stops growing a line that is longer than kLongestLine.

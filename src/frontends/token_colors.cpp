@@ -16,36 +16,36 @@ constexpr bool IsDigit(char16_t c) {
 
 struct SignColor {
     char16_t sign;
-    Rgb color;
+    DisplayColour colour;
 };
 
 /// Tokens of one character that have a class of their own.
 constexpr SignColor kSigns[] = {
-    {u'+', display_colors::kOperatorToken},
-    {symbols::kMultiply, display_colors::kOperatorToken},
-    {symbols::kMinus, display_colors::kOperatorToken},
-    {symbols::kDivide, display_colors::kOperatorToken},
-    {u'(', display_colors::kParenthesisToken},
-    {u')', display_colors::kParenthesisToken},
-    {u',', display_colors::kParenthesisToken},
-    {u'-', display_colors::kSignToken},
+    {u'+', DisplayColour::operatorToken},
+    {symbols::kMultiply, DisplayColour::operatorToken},
+    {symbols::kMinus, DisplayColour::operatorToken},
+    {symbols::kDivide, DisplayColour::operatorToken},
+    {u'(', DisplayColour::parenthesisToken},
+    {u')', DisplayColour::parenthesisToken},
+    {u',', DisplayColour::parenthesisToken},
+    {u'-', DisplayColour::signToken},
 };
 
-Rgb ColorOfToken(std::u16string_view token) {
+DisplayColour ColourOfToken(std::u16string_view token) {
     if (std::all_of(token.begin(), token.end(), IsDigit)) {
-        return display_colors::kDigitToken;
+        return DisplayColour::digitToken;
     }
     if (token.size() == 1) {
         for (const SignColor& entry : kSigns) {
             if (entry.sign == token.front()) {
-                return entry.color;
+                return entry.colour;
             }
         }
     }
-    return display_colors::kNameToken;
+    return DisplayColour::nameToken;
 }
 
-void ColorDegrees(std::u16string_view text, std::vector<Rgb>& colors) {
+void ColorDegrees(std::u16string_view text, Rgb degree, std::vector<Rgb>& colors) {
     for (std::size_t root = 0; root < text.size(); ++root) {
         if (text[root] != symbols::kRoot) {
             continue;
@@ -55,23 +55,24 @@ void ColorDegrees(std::u16string_view text, std::vector<Rgb>& colors) {
             if (!IsDigit(c) && c != u'.' && c != kEuropeanPoint) {
                 break;
             }
-            colors[i - 1] = display_colors::kDegreeToken;
+            colors[i - 1] = degree;
         }
     }
 }
 
 }  // namespace
 
-std::vector<Rgb> ColorsOfLine(std::u16string_view text, std::u16string_view tokenLengths) {
+std::vector<Rgb> ColorsOfLine(std::u16string_view text, std::u16string_view tokenLengths,
+                              const DisplayColours& colours) {
     std::vector<Rgb> colors;
     colors.reserve(text.size());
     for (std::size_t token = 0; colors.size() < text.size(); ++token) {
         const bool known = token < tokenLengths.size() && IsDigit(tokenLengths[token]);
         const std::size_t length = known ? static_cast<std::size_t>(tokenLengths[token] - u'0') : 1;
         const std::u16string_view word = text.substr(colors.size(), length);
-        colors.insert(colors.end(), word.size(), ColorOfToken(word));
+        colors.insert(colors.end(), word.size(), colours[ColourOfToken(word)]);
     }
-    ColorDegrees(text, colors);
+    ColorDegrees(text, colours[DisplayColour::degreeToken], colors);
     return colors;
 }
 

@@ -79,16 +79,27 @@ void TokenLine::InsertToken(int at, std::u16string_view token) {
 }
 
 void TokenLine::InsertCharacters(std::u16string_view text) {
-    if (text_.size() + text.size() > kLongestLine) {
-        text = text.substr(0, kLongestLine - text_.size());
-    }
-    if (text.empty()) {
+    text = text.substr(0, kLongestLine);
+    InsertTokens(text, std::u16string(text.size(), u'1'));
+}
+
+void TokenLine::InsertTokens(std::u16string_view text, std::u16string_view lengths) {
+    if (!LengthsFit(text, lengths)) {
+        InsertCharacters(text);
         return;
     }
-    text_.insert(OffsetOf(cursor_), text);
-    lengths_.insert(static_cast<std::size_t>(cursor_), text.size(), u'1');
+    std::size_t width = 0;
+    std::size_t count = 0;
+    while (count < lengths.size() && text_.size() + width + LengthOf(lengths[count]) <= kLongestLine) {
+        width += LengthOf(lengths[count++]);
+    }
+    if (count == 0) {
+        return;
+    }
+    text_.insert(OffsetOf(cursor_), text.substr(0, width));
+    lengths_.insert(static_cast<std::size_t>(cursor_), lengths.substr(0, count));
     const bool follows = cursor_ >= lastVisible_;
-    cursor_ += static_cast<int>(text.size());
+    cursor_ += static_cast<int>(count);
     if (follows) {
         lastVisible_ = cursor_ - 1;
     }

@@ -52,6 +52,9 @@ class TokenLine {
     void InsertToken(int at, std::u16string_view token);
     /// Inserts every character as a token of width 1 at the cursor.
     void InsertCharacters(std::u16string_view text);
+    /// Inserts a text cut into tokens at the cursor; tokens that do not fit the line any more are left out.
+    /// Lengths that do not add up to the text are cut anew into tokens of width 1.
+    void InsertTokens(std::u16string_view text, std::u16string_view lengths);
     /// Removes the token at `at`; behind the last token the cursor steps back and the last one goes.
     void DeleteToken(int at);
 
@@ -63,6 +66,8 @@ class TokenLine {
     /// Finds the part in view. widths: one per token, any unit; room: of the row in the same unit, that kept
     /// free for the cursor at the end excluded.
     void UpdateView(std::span<const int> widths, int room);
+    /// The row has another width: the view is to be filled again from its last token.
+    void RefillView() { scroll_ = ScrollState::keepLast; }
     /// True when UpdateView has to run before the next paint.
     [[nodiscard]] ScrollState Scroll() const { return scroll_; }
 

@@ -4,14 +4,17 @@
 #include <cmath>
 #include <cstring>
 
-// The kernels run in lanes over columns or rows: every element keeps its own order of operations, so no bit
-// depends on the width of the lanes, and the processor's widest may be used.
-#if defined(__GNUC__) && !defined(__clang__) && defined(__x86_64__) && !defined(__SANITIZE_ADDRESS__)
-#define QUORIX_WIDE_LANES __attribute__((target_clones("avx512f", "avx2", "default")))
-#else
-#define QUORIX_WIDE_LANES
+// The rounds are written once, in vectors of a width that the template is given, and compiled for each
+// instruction set. Every element keeps its own order of operations and every sum over rows its kPartialSums
+// parts, so no bit depends on the width.
+#if defined(__GNUC__) && defined(__x86_64__)
+#define QUORIX_HAS_WIDE_VECTORS
+#define QUORIX_TARGET(name) __attribute__((target(name)))
 #endif
-#define QUORIX_KERNEL static inline __attribute__((always_inline))
+// What handles vectors is inlined into a function for its instruction set, so no vector is passed by a
+// calling convention.
+#define QUORIX_KERNEL [[gnu::always_inline]] inline
+#pragma GCC diagnostic ignored "-Wpsabi"
 
 namespace quorix {
 
@@ -20,218 +23,360 @@ namespace {
 /// A column that keeps less than this of its length was dependent on the earlier ones.
 constexpr double kNegligible = 1e-14;
 
-/// Rows are padded with zero columns to a multiple of this.
-constexpr std::size_t kLanes = 8;
+/// Columns are padded with zeros to whole blocks of this many rows, one for each partial sum.
+constexpr std::size_t kBlock = kPartialSums;
+static_assert(kBlock == 8);
 
-constexpr std::size_t LanesDown(std::size_t n) {
-    return n / kLanes * kLanes;
-}
-constexpr std::size_t LanesUp(std::size_t n) {
-    return LanesDown(n + kLanes - 1);
-}
+struct alignas(kBlock * sizeof(double)) Block {
+    double rows[kBlock] = {};
+};
 
-/// One vector of lanes; the compiler splits it where the processor has narrower ones.
-using Lanes = double __attribute__((vector_size(kLanes * sizeof(double))));
+/// Columns one behind the other, each of whole blocks.
+using Columns = std::vector<Block>;
 
-/// sums[l] = sum over i of factors[i] · rows[i · stride + l], i in order, for kVectors · kLanes values of l.
-template <std::size_t kVectors>
-QUORIX_KERNEL void SumRows(const double* factors, const double* rows, std::size_t stride, std::size_t count,
-                           double* sums) {
-    Lanes lanes[kVectors] = {};
-#pragma GCC unroll 6
-    for (std::size_t i = 0; i < count; ++i) {
-        const double factor = factors[i];
-        for (std::size_t v = 0; v < kVectors; ++v) {
-            Lanes row;
-            std::memcpy(&row, rows + i * stride + v * kLanes, sizeof row);
-            lanes[v] += row * factor;
-        }
-    }
-    std::memcpy(sums, lanes, sizeof lanes);
+constexpr std::size_t BlocksFor(std::size_t n) {
+    return (n + kBlock - 1) / kBlock;
 }
 
-/// SumRows over the lanes `first` to `end`, both multiples of kLanes.
-QUORIX_KERNEL void SumRowsBetween(const double* factors, const double* rows, std::size_t stride,
-                                  std::size_t count, std::size_t first, std::size_t end, double* sums) {
-    std::size_t at = first;
-    // Several sums at a time hide that each addition waits for the one before.
-    for (; at + 4 * kLanes <= end; at += 4 * kLanes) {
-        SumRows<4>(factors, rows + at, stride, count, sums + at);
-    }
-    for (; at + 2 * kLanes <= end; at += 2 * kLanes) {
-        SumRows<2>(factors, rows + at, stride, count, sums + at);
-    }
-    for (; at < end; at += kLanes) {
-        SumRows<1>(factors, rows + at, stride, count, sums + at);
-    }
+template <std::size_t kWidth>
+using VectorOf [[gnu::vector_size(kWidth * sizeof(double))]] = double;
+
+/// The sum of the lanes in halves.
+QUORIX_KERNEL double AddLanes(const VectorOf<2>& lanes) {
+    return lanes[0] + lanes[1];
+}
+QUORIX_KERNEL double AddLanes(const VectorOf<4>& lanes) {
+    return AddLanes(__builtin_shufflevector(lanes, lanes, 0, 1) +
+                    __builtin_shufflevector(lanes, lanes, 2, 3));
+}
+QUORIX_KERNEL double AddLanes(const VectorOf<8>& lanes) {
+    return AddLanes(__builtin_shufflevector(lanes, lanes, 0, 1, 2, 3) +
+                    __builtin_shufflevector(lanes, lanes, 4, 5, 6, 7));
 }
 
-/// out = a · q; a is n by n without padding.
-QUORIX_WIDE_LANES void Multiply(const double* a, const double* q, double* out, std::size_t n,
-                                std::size_t stride) {
-    for (std::size_t i = 0; i < n; ++i) {
-        SumRowsBetween(a + i * n, q, stride, n, 0, stride, out + i * stride);
-    }
-}
-
-/// Subtracts from the columns behind k of b their components along `unit`. Finished columns of b may change
-/// too.
-QUORIX_WIDE_LANES void ProjectLaterColumns(double* b, const double* unit, std::size_t k, double* dots,
-                                           std::size_t n, std::size_t stride) {
-    const std::size_t first = LanesDown(k + 1);
-    SumRowsBetween(unit, b, stride, n, first, stride, dots);
-    for (std::size_t at = first; at < stride; at += kLanes) {
-        Lanes dot;
-        std::memcpy(&dot, dots + at, sizeof dot);
-#pragma GCC unroll 6
-        for (std::size_t i = 0; i < n; ++i) {
-            Lanes row;
-            std::memcpy(&row, b + i * stride + at, sizeof row);
-            row -= dot * unit[i];
-            std::memcpy(b + i * stride + at, &row, sizeof row);
-        }
-    }
-}
-
-/// Subtracts from `column` its components along the first `count` columns of q, all taken of the column as it
-/// came in. columns: the same columns one behind the other; dots, sums: room for `stride` numbers.
-QUORIX_WIDE_LANES void ProjectColumn(double* column, const double* q, const double* columns,
-                                     std::size_t count, double* dots, double* sums, std::size_t n,
-                                     std::size_t stride) {
-    SumRowsBetween(column, q, stride, n, 0, LanesUp(count), dots);
-    SumRowsBetween(dots, columns, stride, count, 0, stride, sums);
-    for (std::size_t i = 0; i < stride; ++i) {
-        column[i] -= sums[i];
-    }
-}
-
-/// column has padding of zeros.
-QUORIX_WIDE_LANES double LengthOf(const double* column, std::size_t stride) {
-    static_assert(kLengthSums == kLanes);
-    double sums[kLanes] = {};
-    for (std::size_t i = 0; i < stride; i += kLanes) {
-        for (std::size_t l = 0; l < kLanes; ++l) {
-            sums[l] += column[i + l] * column[i + l];
-        }
-    }
-    return std::sqrt(((sums[0] + sums[1]) + (sums[2] + sums[3])) +
-                     ((sums[4] + sums[5]) + (sums[6] + sums[7])));
-}
-
-QUORIX_WIDE_LANES void ColumnLengths(const double* b, double* lengths, std::size_t n, std::size_t stride) {
-    std::fill(lengths, lengths + stride, 0.0);
-    for (std::size_t i = 0; i < n; ++i) {
-        for (std::size_t j = 0; j < stride; ++j) {
-            lengths[j] += b[i * stride + j] * b[i * stride + j];
-        }
-    }
-    for (std::size_t j = 0; j < stride; ++j) {
-        lengths[j] = std::sqrt(lengths[j]);
-    }
-}
-
-/// Factors B = Q·R for one size, with its room kept between the rounds.
-class Factorisation {
+/// The rounds for columns of kBlocks blocks, or of any number if that is 0, in vectors of kWidth doubles.
+template <std::size_t kWidth, std::size_t kBlocks>
+class Rounds {
   public:
-    explicit Factorisation(std::size_t n)
-        : n_(n),
-          stride_(LanesUp(n)),
-          columns_(n * stride_),
-          column_(stride_),
-          dots_(stride_),
-          sums_(stride_),
-          lengths_(stride_) {}
-
-    [[nodiscard]] std::size_t Stride() const { return stride_; }
-
-    /// b is used up; q takes the factor.
-    void Run(double* b, double* q) {
-        ColumnLengths(b, lengths_.data(), n_, stride_);
-        for (std::size_t j = 0; j < n_; ++j) {
-            FinishColumn(b, q, j);
-            ProjectLaterColumns(b, columns_.data() + j * stride_, j, dots_.data(), n_, stride_);
+    QUORIX_KERNEL Rounds(std::span<const double> a, std::size_t n) : n_(n), anyBlocks_(BlocksFor(n)) {
+        for (Columns* columns : {&a_, &b_, &q_, &next_, &beforeLast_}) {
+            columns->resize(n * Blocks());
         }
+        dots_.resize(n);
+        lengths_.resize(n);
+        for (std::size_t i = 0; i < n; ++i) {
+            Column(q_, i)[i] = 1.0;
+            for (std::size_t j = 0; j < n; ++j) {
+                Column(a_, j)[i] = a[i * n + j];
+            }
+        }
+    }
+
+    QUORIX_KERNEL std::vector<double> Run(int rounds) {
+        for (int round = 1; round <= rounds; ++round) {
+            Multiply();
+            Factor();
+            const bool repeats = Equal(next_, q_);
+            // Negative eigenvalues turn their columns' signs in every round.
+            const bool alternates = Equal(next_, beforeLast_);
+            beforeLast_.swap(q_);
+            q_.swap(next_);
+            if (repeats) {
+                break;
+            }
+            if (alternates) {
+                return RowByRow((rounds - round) % 2 == 0 ? q_ : beforeLast_);
+            }
+        }
+        return RowByRow(q_);
     }
 
   private:
-    void Project(const double* q, std::size_t count) {
-        ProjectColumn(column_.data(), q, columns_.data(), count, dots_.data(), sums_.data(), n_, stride_);
+    using Vector = VectorOf<kWidth>;
+    static constexpr std::size_t kPerBlock = kBlock / kWidth;
+
+    [[nodiscard]] QUORIX_KERNEL std::size_t Blocks() const { return kBlocks != 0 ? kBlocks : anyBlocks_; }
+    [[nodiscard]] QUORIX_KERNEL std::size_t Vectors() const { return Blocks() * kPerBlock; }
+
+    [[nodiscard]] QUORIX_KERNEL std::size_t Stride() const { return Blocks() * kBlock; }
+
+    QUORIX_KERNEL double* Column(Columns& columns, std::size_t j) const { return columns[j * Blocks()].rows; }
+    QUORIX_KERNEL static Vector Load(const double* column, std::size_t vector) {
+        Vector loaded;
+        std::memcpy(&loaded, column + vector * kWidth, sizeof loaded);
+        return loaded;
+    }
+    QUORIX_KERNEL static void Store(double* column, std::size_t vector, const Vector& value) {
+        std::memcpy(column + vector * kWidth, &value, sizeof value);
     }
 
-    /// The first unit vector that keeps a part outside the first `count` columns of q.
-    double ReplaceByUnitVector(const double* q, std::size_t count) {
+    /// The partial sums in halves: four and four, two and two, one and one.
+    QUORIX_KERNEL static double AddParts(Vector* parts) {
+        for (std::size_t half = kPerBlock / 2; half > 0; half /= 2) {
+            for (std::size_t v = 0; v < half; ++v) {
+                parts[v] += parts[v + half];
+            }
+        }
+        return AddLanes(parts[0]);
+    }
+
+    /// A column in registers, or a view of it where the number of blocks is not known.
+    struct Held {
+        QUORIX_KERNEL explicit Held(const double* column) {
+            if constexpr (kBlocks != 0) {
+                for (std::size_t v = 0; v < kBlocks * kPerBlock; ++v) {
+                    vectors[v] = Load(column, v);
+                }
+            } else {
+                start = column;
+            }
+        }
+        QUORIX_KERNEL Vector operator[](std::size_t v) const {
+            if constexpr (kBlocks != 0) {
+                return vectors[v];
+            } else {
+                return Load(start, v);
+            }
+        }
+        Vector vectors[kBlocks != 0 ? kBlocks * kPerBlock : 1];
+        const double* start;
+    };
+
+    /// Products of `left` and each of the others; several share its loads.
+    template <std::size_t kCount>
+    QUORIX_KERNEL void Dots(const Held& left, const Held (&right)[kCount], double* dots) const {
+        Vector parts[kCount][kPerBlock];
+        for (std::size_t v = 0; v < kPerBlock; ++v) {
+            for (std::size_t c = 0; c < kCount; ++c) {
+                parts[c][v] = left[v] * right[c][v];
+            }
+        }
+        for (std::size_t v = kPerBlock; v < Vectors(); ++v) {
+            for (std::size_t c = 0; c < kCount; ++c) {
+                parts[c][v % kPerBlock] += left[v] * right[c][v];
+            }
+        }
+        for (std::size_t c = 0; c < kCount; ++c) {
+            dots[c] = AddParts(parts[c]);
+        }
+    }
+    QUORIX_KERNEL double LengthOf(const double* column) const {
+        const Held held(column);
+        double squared = 0.0;
+        Dots(held, {held}, &squared);
+        return std::sqrt(squared);
+    }
+
+    /// Subtracts from kCount columns one behind the other their components along `unit`.
+    template <std::size_t kCount>
+    QUORIX_KERNEL void Project(double* columns, const Held& unit) const {
+        double dots[kCount];
+        if constexpr (kCount == 1) {
+            Dots(unit, {Held(columns)}, dots);
+        } else {
+            Dots(unit, {Held(columns), Held(columns + Stride())}, dots);
+        }
+        for (std::size_t v = 0; v < Vectors(); ++v) {
+            for (std::size_t c = 0; c < kCount; ++c) {
+                double* const column = columns + c * Stride();
+                Store(column, v, Load(column, v) - unit[v] * dots[c]);
+            }
+        }
+    }
+
+    /// Vectors that a tile of a sum of columns has; a divisor of a column's vectors.
+    static constexpr std::size_t kTile = kBlocks == 0                   ? kPerBlock
+                                         : kBlocks * kPerBlock % 4 == 0 ? 4
+                                         : kBlocks * kPerBlock % 3 == 0 ? 3
+                                                                        : kBlocks * kPerBlock;
+    struct Tile {
+        Vector vectors[kTile] = {};
+    };
+
+    /// sums[c] = sum over k of columns[k] · factors[c · stride + k] in order, for the tile at vector v.
+    template <std::size_t kSums>
+    QUORIX_KERNEL void SumColumns(const Columns& columns, const double* factors, std::size_t stride,
+                                  std::size_t count, std::size_t v, Tile (&sums)[kSums]) const {
+        const double* column = columns[0].rows;
+        for (std::size_t k = 0; k < count; ++k, column += Stride()) {
+            for (std::size_t t = 0; t < kTile; ++t) {
+                const Vector rows = Load(column, v + t);
+                for (std::size_t c = 0; c < kSums; ++c) {
+                    sums[c].vectors[t] += rows * factors[c * stride + k];
+                }
+            }
+        }
+    }
+
+    /// b = a · q, three columns at a time.
+    QUORIX_KERNEL void Multiply() {
+        for (std::size_t v = 0; v < Vectors(); v += kTile) {
+            std::size_t j = 0;
+            for (; j + 3 <= n_; j += 3) {
+                MultiplyTile<3>(j, v);
+            }
+            for (; j < n_; ++j) {
+                MultiplyTile<1>(j, v);
+            }
+        }
+    }
+    template <std::size_t kSums>
+    QUORIX_KERNEL void MultiplyTile(std::size_t j, std::size_t v) {
+        Tile sums[kSums];
+        SumColumns(a_, Column(q_, j), Stride(), n_, v, sums);
+        for (std::size_t c = 0; c < kSums; ++c) {
+            for (std::size_t t = 0; t < kTile; ++t) {
+                Store(Column(b_, j + c), v + t, sums[c].vectors[t]);
+            }
+        }
+    }
+
+    /// Subtracts from `column` its components along the first `count` columns of the factor, all taken of the
+    /// column as it came in.
+    QUORIX_KERNEL void ProjectTogether(double* column, std::size_t count) {
+        const Held held(column);
+        std::size_t k = 0;
+        for (; k + 2 <= count; k += 2) {
+            Dots(held, {Held(Column(next_, k)), Held(Column(next_, k + 1))}, &dots_[k]);
+        }
+        for (; k < count; ++k) {
+            Dots(held, {Held(Column(next_, k))}, &dots_[k]);
+        }
+        for (std::size_t v = 0; v < Vectors(); v += kTile) {
+            Tile sums[1];
+            SumColumns(next_, dots_.data(), 0, count, v, sums);
+            for (std::size_t t = 0; t < kTile; ++t) {
+                Store(column, v + t, held[v + t] - sums[0].vectors[t]);
+            }
+        }
+    }
+
+    /// The factor Q of b goes to next_; b is used up.
+    QUORIX_KERNEL void Factor() {
+        for (std::size_t j = 0; j < n_; ++j) {
+            lengths_[j] = LengthOf(Column(b_, j));
+        }
+        FinishColumn(0);
+        for (std::size_t j = 1; j < n_; ++j) {
+            const Held unit(Column(next_, j - 1));
+            // The next column first: the others fill the time that its length takes.
+            Project<1>(Column(b_, j), unit);
+            FinishColumn(j);
+            std::size_t later = j + 1;
+            for (; later + 2 <= n_; later += 2) {
+                Project<2>(Column(b_, later), unit);
+            }
+            for (; later < n_; ++later) {
+                Project<1>(Column(b_, later), unit);
+            }
+        }
+    }
+
+    QUORIX_KERNEL void FinishColumn(std::size_t j) {
+        double* const column = Column(b_, j);
+        ProjectTogether(column, j);
+        double length = LengthOf(column);
+        if (!(length > kNegligible * lengths_[j])) [[unlikely]] {
+            length = ReplaceByUnitVector(column, j);
+        }
+        const double reciprocal = 1.0 / length;
+        for (std::size_t v = 0; v < Vectors(); ++v) {
+            Store(Column(next_, j), v, Load(column, v) * reciprocal);
+        }
+    }
+
+    /// The first unit vector that keeps a part outside the first `count` columns of the factor.
+    QUORIX_KERNEL double ReplaceByUnitVector(double* column, std::size_t count) {
         double length = 0.0;
         for (std::size_t unit = 0; unit < n_ && !(length > kNegligible); ++unit) {
-            std::fill(column_.begin(), column_.end(), 0.0);
-            column_[unit] = 1.0;
-            Project(q, count);
-            Project(q, count);
-            length = LengthOf(column_.data(), stride_);
+            std::fill_n(column, n_, 0.0);
+            column[unit] = 1.0;
+            ProjectTogether(column, count);
+            ProjectTogether(column, count);
+            length = LengthOf(column);
         }
         return length;
     }
 
-    void FinishColumn(const double* b, double* q, std::size_t j) {
+    QUORIX_KERNEL static bool Equal(const Columns& left, const Columns& right) {
+        return std::equal(left.begin(), left.end(), right.begin(), [](const Block& l, const Block& r) {
+            return std::equal(l.rows, l.rows + kBlock, r.rows);
+        });
+    }
+
+    QUORIX_KERNEL std::vector<double> RowByRow(Columns& columns) const {
+        std::vector<double> out(n_ * n_);
         for (std::size_t i = 0; i < n_; ++i) {
-            column_[i] = b[i * stride_ + j];
+            for (std::size_t j = 0; j < n_; ++j) {
+                out[i * n_ + j] = Column(columns, j)[i];
+            }
         }
-        Project(q, j);
-        double length = LengthOf(column_.data(), stride_);
-        if (!(length > kNegligible * lengths_[j])) {
-            length = ReplaceByUnitVector(q, j);
-        }
-        const double reciprocal = 1.0 / length;
-        double* const finished = columns_.data() + j * stride_;
-        for (std::size_t i = 0; i < n_; ++i) {
-            finished[i] = column_[i] * reciprocal;
-            q[i * stride_ + j] = finished[i];
-        }
+        return out;
     }
 
     std::size_t n_;
-    std::size_t stride_;
-    std::vector<double> columns_;
-    std::vector<double> column_;
+    std::size_t anyBlocks_;
+    Columns a_;
+    Columns b_;
+    Columns q_;
+    Columns next_;
+    Columns beforeLast_;
     std::vector<double> dots_;
-    std::vector<double> sums_;
     std::vector<double> lengths_;
 };
 
-std::vector<double> WithoutPadding(const std::vector<double>& q, std::size_t n, std::size_t stride) {
-    std::vector<double> out(n * n);
-    for (std::size_t i = 0; i < n; ++i) {
-        std::copy_n(q.begin() + static_cast<std::ptrdiff_t>(i * stride), n,
-                    out.begin() + static_cast<std::ptrdiff_t>(i * n));
+/// kBlocks is the number of blocks where it is known when compiling.
+template <std::size_t kWidth>
+QUORIX_KERNEL std::vector<double> RoundsOfWidth(std::span<const double> a, std::size_t n, int rounds) {
+    switch (BlocksFor(n)) {
+        case 1: return Rounds<kWidth, 1>(a, n).Run(rounds);
+        case 2: return Rounds<kWidth, 2>(a, n).Run(rounds);
+        case 3: return Rounds<kWidth, 3>(a, n).Run(rounds);
+        case 4: return Rounds<kWidth, 4>(a, n).Run(rounds);
+        default: return Rounds<kWidth, 0>(a, n).Run(rounds);
     }
-    return out;
 }
+
+#if defined(QUORIX_HAS_WIDE_VECTORS)
+QUORIX_TARGET("avx512f")
+std::vector<double> RoundsAvx512(std::span<const double> a, std::size_t n, int rounds) {
+    return RoundsOfWidth<8>(a, n, rounds);
+}
+QUORIX_TARGET("avx2")
+std::vector<double> RoundsAvx2(std::span<const double> a, std::size_t n, int rounds) {
+    return RoundsOfWidth<4>(a, n, rounds);
+}
+#endif
 
 }  // namespace
 
-std::vector<double> QrRounds(std::span<const double> a, std::size_t n, int rounds) {
-    Factorisation factorisation(n);
-    const std::size_t stride = factorisation.Stride();
-    std::vector<double> q(n * stride, 0.0);
-    for (std::size_t i = 0; i < n; ++i) {
-        q[i * stride + i] = 1.0;
+std::size_t WidestVectors() {
+#if defined(QUORIX_HAS_WIDE_VECTORS)
+    static const std::size_t widest = __builtin_cpu_supports("avx512f") ? 8
+                                      : __builtin_cpu_supports("avx2")  ? 4
+                                                                        : 2;
+    return widest;
+#else
+    return 2;
+#endif
+}
+
+std::vector<double> QrRounds(std::span<const double> a, std::size_t n, int rounds, std::size_t width) {
+    if (n == 0) {
+        return {};
     }
-    std::vector<double> product(n * stride);
-    std::vector<double> next(n * stride, 0.0);
-    std::vector<double> beforeLast(n * stride, 0.0);
-    for (int round = 1; round <= rounds; ++round) {
-        Multiply(a.data(), q.data(), product.data(), n, stride);
-        factorisation.Run(product.data(), next.data());
-        if (next == q) {
-            return WithoutPadding(next, n, stride);
-        }
-        // Negative eigenvalues turn their columns' signs in every round.
-        if (next == beforeLast) {
-            return WithoutPadding((rounds - round) % 2 == 0 ? next : q, n, stride);
-        }
-        beforeLast.swap(q);
-        q.swap(next);
+#if defined(QUORIX_HAS_WIDE_VECTORS)
+    const std::size_t usable = std::min(width, WidestVectors());
+    if (usable >= 8) {
+        return RoundsAvx512(a, n, rounds);
     }
-    return WithoutPadding(q, n, stride);
+    if (usable >= 4) {
+        return RoundsAvx2(a, n, rounds);
+    }
+#else
+    static_cast<void>(width);
+#endif
+    return RoundsOfWidth<2>(a, n, rounds);
 }
 
 }  // namespace quorix

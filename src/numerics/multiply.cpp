@@ -1,3 +1,6 @@
+#include <bit>
+
+#include "numerics/constants.h"
 #include "numerics/qcore.h"
 #include "numerics/range.h"
 #include "numerics/unpacked.h"
@@ -43,6 +46,17 @@ inline int ShiftProduct(Mantissa& product) {
     return result;
 }
 
+// number *= a mantissa of one word, in the upper bits of `top`, with its exponent word. The product of one
+// word and a mantissa has no part that is left out, so it is what qmul gives.
+inline void MultiplyByWord(Unpacked& number, Limb top, int exponent) {
+    Mantissa& mantissa = number.mantissa;
+    const Limb carry = limbs::MultiplyShort(mantissa, top);
+    for (std::size_t i = 0; i + 1 < limbs::kLimbs; ++i) mantissa[i] = mantissa[i + 1];
+    mantissa[limbs::kLimbs - 1] = carry;
+    const int shift = ShiftProduct(mantissa);
+    number.exponent += exponent - kBias - shift + limbs::RoundHalfUp(mantissa);
+}
+
 }  // namespace
 
 Unpacked Multiply(const Unpacked& a, const Unpacked& b) {
@@ -60,13 +74,18 @@ void qmul(const QReal& a, const QReal& b, QReal& product) {
 void qmuli(const QReal& a, const QReal& b, QReal& product) {
     if (a.IsZero() || b.IsZero()) return qclear(product);
     Unpacked result = Unpack(b);
-    const Limb top = limbs::MultiplyShort(result.mantissa, Limb{a.words[3]} << 48);
-    for (std::size_t i = 0; i + 1 < limbs::kLimbs; ++i) result.mantissa[i] = result.mantissa[i + 1];
-    result.mantissa[limbs::kLimbs - 1] = top;
-    const int shift = ShiftProduct(result.mantissa);
+    MultiplyByWord(result, Limb{a.words[3]} << 48, a.words[1]);
     result.sign = a.words[0] ^ result.sign;
-    result.exponent += a.words[1] - kBias - shift + limbs::RoundHalfUp(result.mantissa);
     if (!StoreInRange(result, product)) Overflow("qmuli", product.words[0], product);
+}
+
+void qfactorial(std::uint16_t n, QReal& product) {
+    Unpacked result = Unpack(constants::kOne);
+    for (Limb factor = 2; factor <= n; ++factor) {
+        const int leading = std::countl_zero(factor);
+        MultiplyByWord(result, factor << leading, kBias + 64 - leading);
+    }
+    Pack(result, "qfactorial", product);
 }
 
 }  // namespace quorix

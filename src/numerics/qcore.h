@@ -46,6 +46,8 @@ void qsub(const QReal& subtrahend, const QReal& minuend, QReal& difference);
 void qmul(const QReal& a, const QReal& b, QReal& product);
 /// product = b * a where a's mantissa has only its top word set.
 void qmuli(const QReal& a, const QReal& b, QReal& product);
+/// product = n!, rounded after each factor as qmul rounds it.
+void qfactorial(std::uint16_t n, QReal& product);
 /// quotient = dividend / divisor: the divisor comes first. 0/0 is 0 without report; x/0 reports singularity.
 void qdiv(const QReal& divisor, const QReal& dividend, QReal& quotient);
 /// 1, 0, -1 for a above, equal to, below b. Equal to zero at a - b = ±0.

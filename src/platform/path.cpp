@@ -8,13 +8,6 @@ namespace quorix {
 
 namespace {
 
-constexpr char16_t FoldCase(char16_t c) {
-    const bool ascii = c >= u'A' && c <= u'Z';
-    // The multiplication sign lies among the capitals of Latin-1.
-    const bool latin = c >= 0xC0 && c <= 0xDE && c != 0xD7;
-    return ascii || latin ? static_cast<char16_t>(c + 0x20) : c;
-}
-
 std::filesystem::path FindEntry(const std::filesystem::path& folder, const std::u16string& name) {
     std::error_code error;
     if (std::filesystem::exists(folder / name, error)) {
@@ -37,6 +30,13 @@ std::filesystem::path FindEntry(const std::filesystem::path& folder, const std::
 }
 
 }  // namespace
+
+char16_t FoldCase(char16_t c) {
+    const bool ascii = c >= u'A' && c <= u'Z';
+    // The multiplication sign lies among the capitals of Latin-1.
+    const bool latin = c >= 0xC0 && c <= 0xDE && c != 0xD7;
+    return ascii || latin ? static_cast<char16_t>(c + 0x20) : c;
+}
 
 bool EqualsIgnoringCase(std::u16string_view a, std::u16string_view b) {
     return std::equal(a.begin(), a.end(), b.begin(), b.end(),

@@ -13,6 +13,9 @@ namespace quorix {
 /// name with ".." or an embedded zero yields an empty path, so that no name leads out of `folder`.
 std::filesystem::path ResolvePath(const std::filesystem::path& folder, std::u16string_view name);
 
+/// The small letter of A to Z and of the capitals of Latin-1; any other character as it is.
+char16_t FoldCase(char16_t c);
+
 /// True when both texts are equal but for the case of letters A to Z and of the letters of Latin-1.
 bool EqualsIgnoringCase(std::u16string_view a, std::u16string_view b);
 

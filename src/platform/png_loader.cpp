@@ -16,7 +16,8 @@ constexpr double kScreenGamma = 2.2;
 constexpr double kBackgroundGamma = 1.0;
 constexpr png_alloc_size_t kLargestChunk = 4U * 1024U * 1024U;
 constexpr png_uint_32 kMostCachedChunks = 64;
-/// Deflate expands no further than this, so a header that promises more cannot be kept by its file.
+/// Deflate expands no further than this, so a header that promises more cannot be kept by its file. What
+/// counts are the rows as the file packs them, before a palette or a few bits a pixel become whole colours.
 constexpr std::uint64_t kLargestExpansion = 1032;
 
 /// Owns the decoder. libpng reports errors by a jump; every jump lands in Guarded, whose frame and the frames
@@ -44,7 +45,7 @@ class PngReader {
         height_ = png_get_image_height(png_, info_);
         rowBytes_ = png_get_rowbytes(png_, info_);
         const std::uint64_t bytes = static_cast<std::uint64_t>(rowBytes_) * height_;
-        if (bytes / kLargestExpansion > file_.size()) {
+        if (static_cast<std::uint64_t>(packedRowBytes_) * height_ / kLargestExpansion > file_.size()) {
             return false;
         }
         bytes_.resize(static_cast<std::size_t>(bytes));
@@ -94,6 +95,7 @@ class PngReader {
         png_set_chunk_cache_max(png_, kMostCachedChunks);
         png_set_read_fn(png_, this, OnRead);
         png_read_info(png_, info_);
+        packedRowBytes_ = png_get_rowbytes(png_, info_);
         SetTransforms();
         png_set_interlace_handling(png_);
         png_read_update_info(png_, info_);
@@ -152,6 +154,7 @@ class PngReader {
     png_structp png_ = nullptr;
     png_infop info_ = nullptr;
     std::jmp_buf jump_{};
+    std::size_t packedRowBytes_ = 0;
     std::size_t rowBytes_ = 0;
     std::uint32_t height_ = 0;
     std::vector<std::uint8_t> bytes_;

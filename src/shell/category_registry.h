@@ -90,6 +90,9 @@ enum FrameMessage : int {
     MSG_HIDE_MATRIX = 5025,
     /// Select a page of a shared window (first: CategoryEntry::mode).
     MSG_SET_MODE = 5100,
+    /// Copy to the clipboard (first: 1 for the line whatever else is on show); paste from it.
+    MSG_COPY = 5102,
+    MSG_PASTE = 5103,
 };
 
 inline constexpr Rect kPortraitUpperWindow{3, 3, 237, 138};

@@ -30,17 +30,28 @@ CMainFrame::CMainFrame(const Surroundings& surroundings, const DeviceScreen& scr
       timers_(surroundings.frameTimers),
       sound_(surroundings.sound),
       screen_(screen),
-      displayFile_(folder_ / kDisplayFileName) {
+      displayFile_(folder_ / kDisplayFileName),
+      macroFiles_(folder_) {
     RemoveAbandonedTemporaries(folder_);
     LoadPreferences(folder_ / kPreferencesFileName, surroundings.clock, preferences_);
-    display_ =
-        std::make_unique<CLedDisplay>(preferences_.calculator, surroundings.displayTimers,
-                                      LedParent{.invalidate = [this] { host_.InvalidateDisplay(); },
-                                                .send = [this](LedMessage message) { OnLedMessage(message); },
-                                                .hideToolTip = {},
-                                                .showToolTip = {}});
+    display_ = std::make_unique<CLedDisplay>(
+        preferences_.calculator, surroundings.displayTimers,
+        LedParent{
+            .invalidate = [this] { host_.InvalidateDisplay(); },
+            .send = [this](LedMessage message) { OnLedMessage(message); },
+            .hideToolTip = [this] { host_.ShowHint({}); },
+            .showToolTip = [this](std::u16string_view line, std::u16string_view lengths,
+                                  int cursor) { host_.ShowHint(hints_.FindHint(line, lengths, cursor)); }});
+    names_ = std::make_unique<TypeAhead>(*display_, [this] { host_.NamesChanged(); });
     displayFile_.Restore(*display_);
-    equals_ = std::make_unique<EqualsPath>(*display_, surroundings.waitCursor);
+    macroFiles_.Load(macros_);
+    RefreshMacroNames();
+    macroEditor_ = std::make_unique<MacroEditor>(macros_, *display_);
+    equals_ = std::make_unique<EqualsPath>(
+        *display_, surroundings.waitCursor,
+        EqualsPath::Hooks{
+            .expandMacros = [this](std::u16string& line) { return ExpandMacros(macros_, line); },
+            .storeMatrix = {}});
     previousInputMode_ = preferences_.calculator.inputMode;
 }
 
@@ -56,12 +67,38 @@ void CMainFrame::Start() {
     }
 }
 
+void CMainFrame::RefreshMacroNames() {
+    std::vector<std::u16string> rows;
+    std::vector<TypeAhead::Macro> names;
+    for (const Macro& macro : macros_.All()) {
+        rows.push_back(CallTextOf(macro));
+        names.push_back({macro.name, CallTokensOf(macro).text});
+    }
+    hints_.SetMacroRows(std::move(rows));
+    names_->SetMacros(std::move(names));
+}
+
+void CMainFrame::Undo() {
+    names_->Close();
+    if (TakesKeys()) {
+        display_->Undo();
+    }
+}
+
+void CMainFrame::Redo() {
+    names_->Close();
+    if (TakesKeys()) {
+        display_->Redo();
+    }
+}
+
 void CMainFrame::EnterCategory(int category) {
     const int previous = currentCategory_;
+    names_->Close();
     keyboardTarget_ = ModuleWindow::none;
     EndPress();
     currentCategory_ = category;
-    if (!macroEditing_) {
+    if (!MacroEditing()) {
         display_->SetCategory(category);
     }
     host_.ClosePopup();
@@ -75,7 +112,7 @@ void CMainFrame::LeaveWindow(ModuleWindow window) {
     if (!ModuleLive(window)) {
         return;
     }
-    if (macroEditing_ && window == ModuleWindow::macros) {
+    if (MacroEditing() && window == ModuleWindow::macros) {
         host_.ShowModule(window, false);
         return;
     }
@@ -118,7 +155,7 @@ void CMainFrame::SwitchCategory(int category) {
         CloseChooser();
         return;
     }
-    if (macroEditing_ && !ServesMacroEditing(category)) {
+    if (MacroEditing() && !ServesMacroEditing(category)) {
         return;
     }
     const int previous = currentCategory_;
@@ -143,7 +180,7 @@ void CMainFrame::CoupleInputMode(int from, int to) {
 }
 
 void CMainFrame::StepCategory(int step) {
-    if (macroEditing_) {
+    if (MacroEditing()) {
         StepWhileEditing(step);
         return;
     }
@@ -229,10 +266,27 @@ void CMainFrame::ApplyPreferences(const Preferences& changed) {
     host_.InvalidateAll();
 }
 
-void CMainFrame::SetMacroEditing(bool editing) {
-    macroEditing_ = editing;
-    display_->SetMacroEditing(editing);
+void CMainFrame::ToggleMacroEditing() {
+    if (!MacroEditing()) {
+        macroEditor_->Begin(UserSettings().calculator.inputMode);
+    } else if (macroEditor_->End()) {
+        StoreMacros();
+    }
     host_.InvalidateAll();
+}
+
+void CMainFrame::StoreMacros() {
+    RefreshMacroNames();
+    // At once: a macro is work that a crash should not take.
+    macroFiles_.Save(macros_);
+}
+
+std::vector<std::u16string> CMainFrame::MacroNames() const {
+    std::vector<std::u16string> names;
+    for (const Macro& macro : macros_.All()) {
+        names.push_back(macro.name);
+    }
+    return names;
 }
 
 void CMainFrame::KeySound() {
@@ -250,8 +304,14 @@ void CMainFrame::SetScreen(const DeviceScreen& screen) {
 }
 
 void CMainFrame::Equals() {
+    if (MacroEditing()) {
+        // The line is a body with parameters; its result would mean nothing and cost the line.
+        macroEditor_->Validate();
+        return;
+    }
     equals_->Run(currentCategory_);
     host_.InvalidateDisplay();
+    host_.ResultShown();
 }
 
 void CMainFrame::OnLedMessage(LedMessage message) {
@@ -263,11 +323,15 @@ void CMainFrame::OnLedMessage(LedMessage message) {
 }
 
 bool CMainFrame::SaveState() {
+    if (MacroEditing()) {
+        macroEditor_->End();
+    }
+    const bool macrosWritten = macroFiles_.Save(macros_);
     Preferences saved = UserSettings();
     saved.lastCategory = static_cast<std::uint8_t>(currentCategory_);
     const bool preferencesWritten = SavePreferences(folder_ / kPreferencesFileName, saved);
     const bool displayWritten = displayFile_.Save(*display_);
-    return preferencesWritten && displayWritten;
+    return macrosWritten && preferencesWritten && displayWritten;
 }
 
 }  // namespace quorix

@@ -6,19 +6,25 @@
 #include <cstdint>
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <string_view>
 #include <vector>
 
 #include "frontends/display_file.h"
 #include "frontends/equals.h"
+#include "frontends/function_hints.h"
 #include "frontends/key_panel.h"
 #include "frontends/led_display.h"
+#include "frontends/macro_file.h"
+#include "frontends/macro_list.h"
 #include "frontends/panel_keys.h"
+#include "frontends/type_ahead.h"
 #include "platform/clock.h"
 #include "platform/screen.h"
 #include "platform/sound.h"
 #include "platform/timers.h"
 #include "shell/category_registry.h"
+#include "shell/macro_editor.h"
 #include "shell/preferences.h"
 
 namespace quorix {
@@ -71,6 +77,12 @@ class FrameHost {
     /// Shows or hides the category chooser.
     virtual void ShowChooser(bool open) = 0;
     virtual void RunTool(Tool tool) = 0;
+    /// Shows a function hint at the display's cursor; hides it without one.
+    virtual void ShowHint(const std::optional<FunctionHint>& hint) = 0;
+    /// The list of function names at the cursor has changed (CMainFrame::Names).
+    virtual void NamesChanged() = 0;
+    /// "=" has put a result on show.
+    virtual void ResultShown() = 0;
     /// A key above the panels wants a window that does not exist.
     virtual void ShowMissing(std::u16string_view name) = 0;
 
@@ -134,15 +146,30 @@ class CMainFrame {
     /// Takes what the preferences dialog gave back; another skin is loaded at once.
     void ApplyPreferences(const Preferences& changed);
 
-    void SetMacroEditing(bool editing);
-    [[nodiscard]] bool MacroEditing() const { return macroEditing_; }
+    /// Begins or ends the editing of a macro; ending stores it.
+    void ToggleMacroEditing();
+    [[nodiscard]] bool MacroEditing() const { return macroEditor_->Editing(); }
+    [[nodiscard]] MacroEditor& TheMacroEditor() { return *macroEditor_; }
+    /// The names of the macros as a list at a place; the choice goes into the editor.
+    [[nodiscard]] std::vector<std::u16string> MacroNames() const;
     [[nodiscard]] bool ModuleLive(ModuleWindow window) const {
         return liveModules_[static_cast<std::size_t>(window)];
     }
     /// The window that receives pad keys and typed characters, or none.
     [[nodiscard]] ModuleWindow KeyboardTarget() const { return keyboardTarget_; }
+    [[nodiscard]] const MacroList& Macros() const { return macros_; }
     /// Plays the chosen key sound, when sounds are on.
     void KeySound();
+    /// The list of names that opens while a letter is typed.
+    [[nodiscard]] TypeAhead& Names() { return *names_; }
+    /// The spoken name of a cell as it stands now; empty for a dead one. Presses a cell as a short tap does.
+    [[nodiscard]] std::u16string_view SpokenName(PanelCell cell) const;
+    void PressCell(PanelCell cell);
+    /// Takes back the last edit of the line, or does it again.
+    void Undo();
+    void Redo();
+    /// Whether typed characters and pad keys reach the display.
+    [[nodiscard]] bool TakesKeys() const;
 
     /// Pen on the panels; points in device pixels of the frame's client area.
     void ButtonDown(Point point);
@@ -157,7 +184,7 @@ class CMainFrame {
     /// "=": evaluates the line.
     void Equals();
 
-    /// Shut-down: writes "preferences.dat" and "led.dat". False when one of them could not be written.
+    /// Shut-down: writes the macros, "preferences.dat" and "led.dat". False when one could not be written.
     bool SaveState();
 
   private:
@@ -174,13 +201,17 @@ class CMainFrame {
     void LowerUp(std::int32_t code);
     void RunCommand(PanelCommand command, PanelCell cell);
     void OpenFunctionList(PanelCell cell);
+    void ChooseFunction(std::size_t item);
     void SendLowerKey(std::int32_t code);
+    void MacroPadKey(std::int32_t code);
+    void StoreMacros();
     void EndPress();
     void SetTimer(int id, int milliseconds);
     void KillTimers();
     void OnLedMessage(LedMessage message);
     [[nodiscard]] bool IsOrange() const { return holdFired_ || display_->GetShift(); }
-    [[nodiscard]] bool TakesKeys() const;
+    void RefreshMacroNames();
+    bool NamesTakeKey(TypeAheadKey key);
 
     std::filesystem::path folder_;
     FrameHost& host_;
@@ -191,6 +222,13 @@ class CMainFrame {
     DisplayFile displayFile_;
     std::unique_ptr<CLedDisplay> display_;
     std::unique_ptr<EqualsPath> equals_;
+    MacroFiles macroFiles_;
+    MacroList macros_;
+    std::unique_ptr<MacroEditor> macroEditor_;
+    HintTable hints_;
+    std::unique_ptr<TypeAhead> names_;
+    /// The release of a key whose press went to the list of names.
+    bool ignoreKeyUp_ = false;
     PanelLooks looks_;
     int currentCategory_ = 0;
     /// The user's mode while a category above 2 forces String mode.
@@ -198,7 +236,6 @@ class CMainFrame {
     std::int32_t pressedKey_ = KEY_NONE;
     Point savedPoint_;
     bool holdFired_ = false;
-    bool macroEditing_ = false;
     bool chooserOpen_ = false;
     ModuleWindow keyboardTarget_ = ModuleWindow::none;
     std::array<bool, kModuleWindowCount> liveModules_{};

@@ -1,15 +1,17 @@
 #include "shell/main_frame_wnd.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMessageBox>
 #include <QPainter>
+#include <QTimer>
 #include <iostream>
 #include <optional>
 
 #include "platform/dense_picture.h"
+#include "platform/path.h"
 #include "platform/qt/pictures.h"
-#include "platform/qt/popup_menu.h"
 #include "shell/about_dialog.h"
 #include "shell/module_factories.h"
 #include "shell/preferences_dialog.h"
@@ -18,7 +20,10 @@ namespace quorix {
 
 namespace {
 
+constexpr std::u16string_view kManualFile = u"Quorix.htm";
+
 constexpr char16_t kBackspaceCharacter = 8;
+constexpr char16_t kTabCharacter = 9;
 constexpr char16_t kEnterCharacter = 13;
 
 std::optional<HardKey> HardKeyOf(int qtKey) {
@@ -50,13 +55,18 @@ bool Overlap(const Rect& a, const Rect& b) {
 
 }  // namespace
 
-MainFrameWnd::MainFrameWnd(const std::filesystem::path& programFolder, SoundPlayer* sound)
+MainFrameWnd::MainFrameWnd(const std::filesystem::path& programFolder, SoundPlayer* sound,
+                           HelpViewer* helpViewer)
     : folder_(programFolder),
       view_(LoadViewSettings(programFolder)),
       skin_(programFolder, view_.Screen()),
-      sound_(sound) {
+      sound_(sound),
+      helpViewer_(helpViewer) {
     setWindowTitle(QStringLiteral("Quorix"));
     setFocusPolicy(Qt::StrongFocus);
+    setAccessibleName(windowTitle());
+    StandAlone();
+    MakeCellsAccessible();
 }
 
 MainFrameWnd::~MainFrameWnd() = default;
@@ -72,6 +82,8 @@ bool MainFrameWnd::Create() {
                                                                    .waitCursor = &waitCursor_,
                                                                    .sound = sound_},
                                           view_.Screen());
+    hint_ = std::make_unique<HintWnd>(this);
+    names_ = std::make_unique<TypeAheadWnd>(this, frame_->Names());
     skin_.Select(frame_->Settings().skinFile);
     led_->SetDisplay(&frame_->Display(), static_cast<int>(frame_->Settings().tapHoldInterval));
     if (!ApplyView()) {
@@ -88,6 +100,22 @@ std::filesystem::path MainFrameWnd::SkinPathTried() const {
     return folder_ / std::filesystem::path(kInterfacesFolder) / std::filesystem::path(skin_.SkinFile());
 }
 
+void MainFrameWnd::Quit() {
+    if (ground_) {
+        ToggleFullScreen();
+    }
+    // A window that has just become one of its own closes as such from the message loop only.
+    QTimer::singleShot(0, this, &QWidget::close);
+}
+
+void MainFrameWnd::Raise() {
+    QWidget* const top = window();
+    top->setWindowState(top->windowState() & ~Qt::WindowMinimized);
+    top->show();
+    top->raise();
+    top->activateWindow();
+}
+
 bool MainFrameWnd::ApplyView() {
     const DeviceScreen screen = view_.Screen();
     skin_.SetScreen(screen);
@@ -97,7 +125,7 @@ bool MainFrameWnd::ApplyView() {
     led_->SetTexButton(folder_ / "Resources" / (Scale() == 2 ? "TexButton_VGA.png" : "TexButton.png"));
     loadedDensity_ = 0;
     LayOut();
-    SetZoom(view_.Zoom());
+    SetZoom(ZoomNow());
     frame_->SetScreen(screen);
     for (const auto& module : modules_) {
         if (module) {
@@ -107,6 +135,35 @@ bool MainFrameWnd::ApplyView() {
     return skinRead;
 }
 
+/// On the whole screen the largest of the zooms that fits.
+double MainFrameWnd::ZoomNow() const {
+    if (!ground_) {
+        return view_.Zoom();
+    }
+    const double room = ground_->RoomFor({Place().Width(), Place().Height()});
+    double zoom = 1;
+    for (const double step : {1.5, 2.0}) {
+        zoom = step <= room ? step : zoom;
+    }
+    return zoom;
+}
+
+void MainFrameWnd::ToggleFullScreen() {
+    if (ground_) {
+        const auto ground = std::exchange(ground_, nullptr);
+        ground->GiveBack(*this);
+        ApplyView();
+        if (view_.position) {
+            move(*view_.position);
+        }
+    } else {
+        view_.position = pos();
+        ground_ = std::make_unique<FullScreenGround>(ToQColor(bodyColour_), [this] { Quit(); });
+        ground_->Take(*this);
+        ApplyView();
+    }
+}
+
 void MainFrameWnd::LoadColours() {
     colours_ = {};
     if (const auto path = skin_.FindSkinValue("BoderColores"); !path.empty()) {
@@ -114,6 +171,12 @@ void MainFrameWnd::LoadColours() {
     }
     led_->SetFrameColours(
         {colours_[SkinColour::border2], colours_[SkinColour::border3], colours_[SkinColour::border4]});
+    const SheetColours sheet{.sheet = colours_[SkinColour::sheet],
+                             .ink = colours_[SkinColour::sheetInk],
+                             .line = colours_[SkinColour::sheetLine],
+                             .accent = colours_[SkinColour::sheetAccent]};
+    hint_->SetColours(sheet);
+    names_->SetColours(sheet);
 }
 
 /// Reads the pictures that are not there yet in the density of this paint.
@@ -156,6 +219,10 @@ void MainFrameWnd::InvalidateAll() {
 void MainFrameWnd::InvalidateDisplay() {
     if (led_) {
         led_->InvalidateAll();
+    }
+    // It shows the line too.
+    if (ModuleWnd* const macros = Module(ModuleWindow::macros)) {
+        macros->InvalidateAll();
     }
 }
 
@@ -232,6 +299,29 @@ void MainFrameWnd::ShowChooser(bool open) {
                        : CellRect(frame_->CurrentOrientation(), {Panel::upper, CELL_CHOOSER}));
 }
 
+Rect MainFrameWnd::ClientPixels() const {
+    return {0, 0, Place().Width(), Place().Height()};
+}
+
+void MainFrameWnd::ShowHint(const std::optional<FunctionHint>& hint) {
+    // During start-up the display speaks before its helpers are there.
+    if (!hint_) {
+        return;
+    }
+    if (hint && led_->isVisible() && !frame_->Names().IsOpen()) {
+        hint_->ShowHint(*hint, led_->CursorRect(), ClientPixels());
+    } else {
+        hint_->hide();
+    }
+}
+
+void MainFrameWnd::NamesChanged() {
+    if (names_) {
+        hint_->hide();
+        names_->Follow(led_->CursorRect(), ClientPixels());
+    }
+}
+
 void MainFrameWnd::ShowNotice(const QString& text) {
     auto* const box = new QMessageBox(QMessageBox::Information, windowTitle(), text, QMessageBox::Ok, this);
     box->setAttribute(Qt::WA_DeleteOnClose);
@@ -248,7 +338,10 @@ void MainFrameWnd::OpenPreferences() {
         this, frame_->UserSettings(),
         {.folder = folder_, .skin = skin_, .sound = sound_, .pixelsPerUnit = Scale() * Zoom()});
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    connect(dialog, &QDialog::accepted, this, [this, dialog] { frame_->ApplyPreferences(dialog->Result()); });
+    connect(dialog, &QDialog::accepted, this, [this, dialog] {
+        frame_->ApplyPreferences(dialog->Result());
+        led_->SetDisplay(&frame_->Display(), static_cast<int>(frame_->Settings().tapHoldInterval));
+    });
     dialog->open();
 }
 
@@ -256,14 +349,32 @@ void MainFrameWnd::OpenAbout() {
     ShowAbout(this);
 }
 
-void MainFrameWnd::OpenHelp() {}
+void MainFrameWnd::OpenHelp() {
+    const std::filesystem::path manual = ResolvePath(folder_, kManualFile);
+    // The desktop may give up when this window has gone.
+    const auto showHere = [this, manual, alive = QPointer<MainFrameWnd>(this)] {
+        if (!alive) {
+            return;
+        }
+        if (!help_) {
+            help_ = std::make_unique<HtmlWindow>();
+        }
+        if (!help_->ShowFile(manual)) {
+            ShowNotice(
+                QStringLiteral("The help file %1 is missing.").arg(QString::fromStdString(manual.string())));
+        }
+    };
+    if (helpViewer_ == nullptr || !helpViewer_->Open(manual, showHere)) {
+        showHere();
+    }
+}
 
 void MainFrameWnd::RunTool(Tool tool) {
     switch (tool) {
         case Tool::preferences: OpenPreferences(); break;
         case Tool::help: OpenHelp(); break;
         case Tool::about: OpenAbout(); break;
-        case Tool::exit: close(); break;
+        case Tool::exit: Quit(); break;
         case Tool::count: break;
     }
 }
@@ -274,19 +385,69 @@ void MainFrameWnd::OpenPopup(PopupId id, PanelCell at, const std::vector<std::u1
 
 void MainFrameWnd::OpenPopupAt(PopupId id, const Rect& at, const std::vector<std::u16string>& items) {
     ClosePopup();
-    popup_ = NewPopupMenu(this, Scale() * Zoom());
-    for (std::size_t i = 0; i < items.size(); ++i) {
-        const QAction* const action = popup_->addAction(QString::fromStdU16String(items[i]));
-        connect(action, &QAction::triggered, this,
-                [this, id, i] { frame_->PopupChosen(id, static_cast<int>(i)); });
+    popup_ = new MorvaneListBoxWnd(*this, *this, id, [this, id](int row) {
+        ClosePopup();
+        if (row >= 0) {
+            frame_->KeySound();
+            frame_->PopupChosen(id, row);
+        }
+    });
+    popup_->Open(at, items, -1);
+    qApp->installEventFilter(this);
+}
+
+namespace {
+
+/// The upper panel's cells, then the lower one's.
+constexpr PanelCell CellOfIndex(int index) {
+    return index < kUpperCellCount ? PanelCell{Panel::upper, index}
+                                   : PanelCell{Panel::lower, index - kUpperCellCount};
+}
+
+}  // namespace
+
+QString MainFrameWnd::AccessibleCellName(int index) const {
+    const std::u16string_view name = frame_->SpokenName(CellOfIndex(index));
+    return QString::fromUtf16(name.data(), static_cast<qsizetype>(name.size()));
+}
+
+QRect MainFrameWnd::AccessibleCellRect(int index) const {
+    return OnDesktop(CellRect(frame_->CurrentOrientation(), CellOfIndex(index)).Scaled(Scale()));
+}
+
+bool MainFrameWnd::AccessibleCellDown(int index) const {
+    return frame_->Looks().LooksDown(CellOfIndex(index));
+}
+
+void MainFrameWnd::PressAccessibleCell(int index) {
+    frame_->PressCell(CellOfIndex(index));
+}
+
+void MainFrameWnd::PlaySound(const std::filesystem::path& wav) {
+    if (sound_ != nullptr && !wav.empty() && frame_->Settings().soundEnabled != 0) {
+        sound_->Play(wav);
     }
-    popup_->popup(mapToGlobal(QPointF(at.left * Zoom(), at.bottom * Zoom()).toPoint()));
 }
 
 void MainFrameWnd::ClosePopup() {
     if (popup_) {
-        popup_->close();
+        qApp->removeEventFilter(this);
+        popup_->hide();
+        // It may be within a handler of its own.
+        popup_->deleteLater();
+        popup_ = nullptr;
     }
+}
+
+/// A tap outside an open list closes it and does nothing else.
+bool MainFrameWnd::eventFilter(QObject* watched, QEvent* event) {
+    const bool press =
+        event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick;
+    if (popup_ && press && watched->isWidgetType() && watched != popup_) {
+        ClosePopup();
+        return true;
+    }
+    return WindowBase::eventFilter(watched, event);
 }
 
 void MainFrameWnd::PaintPanels(QPainter& painter, const Rect& dirty) {
@@ -298,11 +459,36 @@ void MainFrameWnd::PaintPanels(QPainter& painter, const Rect& dirty) {
         }
         for (int index = 0; index < count; ++index) {
             const PanelCell cell{panel, index};
-            if (Overlap(CellRect(orientation, cell).Scaled(Scale()), dirty)) {
-                panels_.PaintCell(painter, orientation, Scale(), cell, frame_->Looks().LooksDown(cell));
+            if (!Overlap(CellRect(orientation, cell).Scaled(Scale()), dirty)) {
+                continue;
+            }
+            const bool down = frame_->Looks().LooksDown(cell);
+            if (const MacroPadLabel* const label = MacroLabelOf(cell)) {
+                panels_.PaintLowerCellAs(painter, orientation, Scale(), index, down, label->labelOf,
+                                         QString::fromUtf16(label->text));
+            } else {
+                panels_.PaintCell(painter, orientation, Scale(), cell, down);
             }
         }
     }
+}
+
+/// What stands on a key of the lower panel while a macro is being edited; null for its own label.
+const MainFrameWnd::MacroPadLabel* MainFrameWnd::MacroLabelOf(PanelCell cell) const {
+    static constexpr MacroPadLabel kLabels[] = {{KEY_DIVIDE, 0, u"keys"},
+                                                {KEY_MULTIPLY, 0, u"αβγ"},
+                                                {KEY_STORE, 0, u"test"},
+                                                {KEY_RECALL, KEY_MULTIPLY, u""},
+                                                {KEY_EQUALS, KEY_DIVIDE, u""}};
+    if (cell.panel == Panel::lower && frame_->CurrentCategory() == CATEGORY_MACROS &&
+        frame_->MacroEditing()) {
+        for (const MacroPadLabel& label : kLabels) {
+            if (label.cell == cell.cell) {
+                return &label;
+            }
+        }
+    }
+    return nullptr;
 }
 
 /// The wordmark stands where the converters show no display.
@@ -336,6 +522,22 @@ void MainFrameWnd::Paint(QPainter& painter, const Rect& dirty) {
     }
 }
 
+/// Keys that edit, copy and paste: for the display where it takes keys, else for the window of the category.
+bool MainFrameWnd::EditKey(const QKeyEvent& event) {
+    const bool shift = (event.modifiers() & Qt::ShiftModifier) != 0;
+    const bool here = frame_->TakesKeys();
+    const ModuleWindow window = EntryOf(frame_->CurrentCategory()).window;
+    switch (event.key()) {
+        case Qt::Key_C:
+            here ? led_->Copy(shift) : void(SendToModule(window, MSG_COPY, shift ? 1 : 0, 0));
+            return true;
+        case Qt::Key_V: here ? led_->PasteText() : void(SendToModule(window, MSG_PASTE, 0, 0)); return true;
+        case Qt::Key_Z: shift ? frame_->Redo() : frame_->Undo(); return true;
+        case Qt::Key_Y: frame_->Redo(); return true;
+        default: return false;
+    }
+}
+
 bool MainFrameWnd::ChooserKeyPressed(const QKeyEvent& event) {
     if (!frame_->ChooserOpen()) {
         return false;
@@ -356,6 +558,9 @@ bool MainFrameWnd::DesktopKey(const QKeyEvent& event) {
         view_.zoomPercent = ZoomAfter(view_.zoomPercent, 1);
     } else if (control && event.key() == Qt::Key_Minus) {
         view_.zoomPercent = ZoomAfter(view_.zoomPercent, -1);
+    } else if (event.key() == Qt::Key_F11) {
+        ToggleFullScreen();
+        return true;
     } else if (event.key() == Qt::Key_F1) {
         OpenHelp();
         return true;
@@ -364,17 +569,17 @@ bool MainFrameWnd::DesktopKey(const QKeyEvent& event) {
             frame_->Settings().categoryOrder[static_cast<std::size_t>(event.key() - Qt::Key_1)]);
         return true;
     } else if (control && event.key() == Qt::Key_Q) {
-        close();
+        Quit();
         return true;
     } else {
-        return control && event.key() != Qt::Key_Control;
+        return control && (EditKey(event) || event.key() != Qt::Key_Control);
     }
     ApplyView();
     return true;
 }
 
 void MainFrameWnd::keyPressEvent(QKeyEvent* event) {
-    if (DesktopKey(*event) || ChooserKeyPressed(*event)) {
+    if ((popup_ && popup_->Key(*event)) || DesktopKey(*event) || ChooserKeyPressed(*event)) {
         return;
     }
     if (const auto hardKey = HardKeyOf(event->key())) {
@@ -385,6 +590,7 @@ void MainFrameWnd::keyPressEvent(QKeyEvent* event) {
         case Qt::Key_Return:
         case Qt::Key_Enter: frame_->Character(kEnterCharacter); return;
         case Qt::Key_Backspace: frame_->Character(kBackspaceCharacter); return;
+        case Qt::Key_Tab: frame_->Character(kTabCharacter); return;
         default: break;
     }
     for (const char16_t character : event->text().toStdU16String()) {
@@ -402,13 +608,18 @@ void MainFrameWnd::keyReleaseEvent(QKeyEvent* event) {
 void MainFrameWnd::closeEvent(QCloseEvent* event) {
     if (!closed_) {
         closed_ = true;
-        view_.position = pos();
+        if (!ground_) {
+            view_.position = pos();
+        }
         SaveViewSettings(folder_, view_);
         if (!frame_->SaveState()) {
             std::cerr << "quorix: the state could not be saved in " << folder_ << '\n';
         }
     }
     event->accept();
+    if (whenClosed_) {
+        whenClosed_();
+    }
 }
 
 }  // namespace quorix

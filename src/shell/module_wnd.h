@@ -28,6 +28,8 @@ class ModuleSite {
     [[nodiscard]] virtual ColorRef BodyColour() const = 0;
     /// Caps of the skin, in the density of the present paint.
     [[nodiscard]] virtual PanelPainter& Panels() = 0;
+    /// Plays a sound of its own, when sounds are on and the file has a name.
+    virtual void PlaySound(const std::filesystem::path& wav) = 0;
     /// Opens a list at a place (device pixels of the frame's client area); the choice comes as
     /// MSG_POPUP_CHOSEN.
     virtual void OpenPopupAt(PopupId id, const Rect& at, const std::vector<std::u16string>& items) = 0;
@@ -47,8 +49,7 @@ class ModuleWnd : public WindowBase {
     [[nodiscard]] int Category() const { return category_; }
 
   protected:
-    [[nodiscard]] ModuleSite& Site() { return site_; }
-    [[nodiscard]] const ModuleSite& Site() const { return site_; }
+    [[nodiscard]] ModuleSite& Site() const { return site_; }
     /// A picture of the skin in the density of the present paint; empty when the skin has none.
     [[nodiscard]] QImage SkinPicture(std::string_view key) const;
     /// The chooser key's place in this window, in device pixels.

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "platform/directory.h"
 #include "platform/path.h"
 
 namespace quorix {
@@ -25,24 +26,16 @@ int MoveRow(CategoryOrder& order, int row, RowMove move) {
     return to;
 }
 
-std::vector<FileChoice> FilesIn(const std::filesystem::path& folder, std::u16string_view extension) {
+std::vector<FileChoice> FilesIn(const std::filesystem::path& programFolder, std::u16string_view pattern) {
     std::vector<FileChoice> files;
-    std::error_code error;
-    for (std::filesystem::directory_iterator entry(folder, error), end; !error && entry != end;
-         entry.increment(error)) {
-        const std::u16string name = entry->path().filename().u16string();
-        const std::u16string ending = entry->path().extension().u16string();
-        if (EqualsIgnoringCase(ending, extension) && !entry->is_directory(error)) {
-            files.push_back({name.substr(0, name.size() - ending.size()), name});
-        }
+    for (const std::filesystem::path& path : ListFiles(programFolder, pattern)) {
+        files.push_back({path.stem().u16string(), path.filename().u16string()});
     }
-    std::sort(files.begin(), files.end(),
-              [](const FileChoice& a, const FileChoice& b) { return a.shown < b.shown; });
     return files;
 }
 
 std::vector<FileChoice> SkinChoices(const std::filesystem::path& programFolder) {
-    std::vector<FileChoice> skins = FilesIn(ResolvePath(programFolder, u"Interfaces"), u".inf");
+    std::vector<FileChoice> skins = FilesIn(programFolder, u"Interfaces\\*.inf");
     const auto standard = std::find_if(skins.begin(), skins.end(), [](const FileChoice& skin) {
         return EqualsIgnoringCase(skin.file, u"default.inf");
     });
@@ -54,7 +47,7 @@ std::vector<FileChoice> SkinChoices(const std::filesystem::path& programFolder) 
 }
 
 std::vector<FileChoice> SoundChoices(const std::filesystem::path& programFolder) {
-    return FilesIn(ResolvePath(programFolder, u"Sounds"), u".wav");
+    return FilesIn(programFolder, u"Sounds\\*.wav");
 }
 
 std::u16string_view InputModeOf(bool basic, bool reversePolish) {

@@ -25,9 +25,8 @@ struct FileChoice {
     std::u16string file;
 };
 
-/// The files of `folder` with an extension (".wav"), shown without it, sorted by name. Empty when there is no
-/// such folder.
-std::vector<FileChoice> FilesIn(const std::filesystem::path& folder, std::u16string_view extension);
+/// The files that match a pattern ("Sounds\*.wav"), shown without their ending, sorted by name.
+std::vector<FileChoice> FilesIn(const std::filesystem::path& programFolder, std::u16string_view pattern);
 /// The skins of the program folder; "default.inf" is shown as "Default" and stands first.
 std::vector<FileChoice> SkinChoices(const std::filesystem::path& programFolder);
 std::vector<FileChoice> SoundChoices(const std::filesystem::path& programFolder);

@@ -53,19 +53,17 @@ TEST_F(ConsoleTest, WrongCommandLinesSayWhatIsWrong) {
     const struct {
         std::vector<std::string_view> arguments;
         std::string_view part;
-    } rows[] = {
-        {{"--nosuch"}, "unknown option --nosuch"},
-        {{"--3+5"}, "unknown option --3+5"},
-        {{"--angle"}, "needs a value"},
-        {{"--angle", "turns"}, "\"turns\""},
-        {{"--base=7", "1"}, "\"7\""},
-        {{"--digits", "100"}, "\"100\""},
-        {{"--digits", "-1"}, "\"-1\""},
-        {{"--fixed", "2x"}, "\"2x\""},
-        {{"--word", "64"}, "\"64\""},
-        {{"--locale", ""}, "\"\""},
-        {{"--help=1"}, "unknown option"},
-    };
+    } rows[] = {{{"--nosuch"}, "unknown option --nosuch"},
+                {{"--3+5"}, "unknown option --3+5"},
+                {{"--angle"}, "needs a value"},
+                {{"--angle", "turns"}, "\"turns\""},
+                {{"--base=7", "1"}, "\"7\""},
+                {{"--digits", "100"}, "\"100\""},
+                {{"--digits", "-1"}, "\"-1\""},
+                {{"--fixed", "2x"}, "\"2x\""},
+                {{"--word", "64"}, "\"64\""},
+                {{"--locale", ""}, "\"\""},
+                {{"--help=1"}, "unknown option"}};
     for (const auto& row : rows) EXPECT_THAT(ParseOptions(row.arguments).error, HasSubstr(row.part));
 }
 
@@ -102,8 +100,7 @@ TEST_F(ConsoleTest, SettingsShapeTheAnswer) {
         {{"--base", "2"}, "101+11", "00001000"},
         {{"--format", "frac"}, "3/4+1", "1 3/4"},
         {{"--format", "sci", "--digits", "3"}, "2/3", "6.667E-1"},
-        {{"--digits", "60"}, "1/7", "0.142857142857142857142857142857142857142857142857142857142857"},
-    };
+        {{"--digits", "60"}, "1/7", "0.142857142857142857142857142857142857142857142857142857142857"}};
     for (const auto& row : rows) {
         ConsoleSession session(ParseOptions(row.arguments).options);
         EXPECT_EQ(Answer(session, row.line), row.answer) << row.line;
@@ -114,33 +111,31 @@ TEST_F(ConsoleTest, VariablesHoldNumbersMatricesAndLists) {
     SetMatrixOperators(MatrixOperatorTable());
     const struct {
         std::string_view line, answer;
-    } rows[] = {
-        {"[VA]=1.5", "1.5"},
-        {" [vb] = [VA]*2 ", "3"},
-        {"[VA]+[VB]", "4.5"},
-        {"[VW]=(1+i)^0+i", "1.0000E0+i"},
-        {"[VW]-i", "1"},
-        {"[VA]=[1 2;3 4]", "[1 2;3 4]"},
-        {"[ans]*2", "[2 4;6 8]"},
-        {"[VB]=inv([VA])", "[-2 1;1.5 -0.5]"},
-        {"[VA]*[VB]", "[1 0;0 1]"},
-        {"det([VA])", "-2"},
-        {"[VC]=det([VA])", "-2"},
-        {"[VC]+1", "-1"},
-        {"solve([VA],[VB])", "[5.5 -2.5;-3.75 1.75]"},
-        {"[VZ]=[ -.5\t1e3 ;\u22122 +0.1 ]", "[-0.5 1000;-2 0.1]"},
-        {"[VZ]*[VZ]-[VZ]*[VZ]", "[0 0;0 0]"},
-        {"-([VZ]-[VZ])", "[0 0;0 0]"},
-        {"[VD]=[1e300 1e-300 0.30000000000000004]", "[1e+300 1e-300 0.30000000000000004]"},
-        {"LIST=1 2 -4", "[1;2;-4]"},
-        {"sum()", "-1"},
-        {"list=[1;2;4.5]", "[1;2;4.5]"},
-        {"avg()*2", "5"},
-        {"LIST=trans([VD])", "[1e+300;1e-300;0.30000000000000004]"},
-        {"N()", "3"},
-        {"[VA]=2", "2"},  // A number again.
-        {"[VA]*2", "4"},
-    };
+    } rows[] = {{"[VA]=1.5", "1.5"},
+                {" [vb] = [VA]*2 ", "3"},
+                {"[VA]+[VB]", "4.5"},
+                {"[VW]=(1+i)^0+i", "1.0000E0+i"},
+                {"[VW]-i", "1"},
+                {"[VA]=[1 2;3 4]", "[1 2;3 4]"},
+                {"[ans]*2", "[2 4;6 8]"},
+                {"[VB]=inv([VA])", "[-2 1;1.5 -0.5]"},
+                {"[VA]*[VB]", "[1 0;0 1]"},
+                {"det([VA])", "-2"},
+                {"[VC]=det([VA])", "-2"},
+                {"[VC]+1", "-1"},
+                {"solve([VA],[VB])", "[5.5 -2.5;-3.75 1.75]"},
+                {"[VZ]=[ -.5\t1e3 ;\u22122 +0.1 ]", "[-0.5 1000;-2 0.1]"},
+                {"[VZ]*[VZ]-[VZ]*[VZ]", "[0 0;0 0]"},
+                {"-([VZ]-[VZ])", "[0 0;0 0]"},
+                {"[VD]=[1e300 1e-300 0.30000000000000004]", "[1e+300 1e-300 0.30000000000000004]"},
+                {"LIST=1 2 -4", "[1;2;-4]"},
+                {"sum()", "-1"},
+                {"list=[1;2;4.5]", "[1;2;4.5]"},
+                {"avg()*2", "5"},
+                {"LIST=trans([VD])", "[1e+300;1e-300;0.30000000000000004]"},
+                {"N()", "3"},
+                {"[VA]=2", "2"},  // A number again.
+                {"[VA]*2", "4"}};
     ConsoleSession session(Parse({}).options);
     for (const auto& row : rows) EXPECT_EQ(Answer(session, row.line), row.answer) << row.line;
 
@@ -158,32 +153,30 @@ TEST_F(ConsoleTest, BadAssignmentsSayWhatIsWrong) {
     for (int i = 0; i < 30; ++i) wide += " 1";
     const struct {
         std::string line, message;
-    } rows[] = {
-        {"[VRE]=1", "[VRE] cannot be set; variables are [VA] to [VZ], and LIST"},
-        {"[ans]=1", "[ans] cannot be set; variables are [VA] to [VZ], and LIST"},
-        {"[VLRE]=1", "[VLRE] cannot be set; variables are [VA] to [VZ], and LIST"},
-        {"[X]=1", "[X] cannot be set; variables are [VA] to [VZ], and LIST"},
-        {"[VA]=", "Syntax error"},
-        {"[VA]=1/0", "Invalid parameter(s)"},
-        {"[VA]=[1 2;3]", "The rows of a matrix must have one length"},
-        {"[VA]=[1 2;]", "The rows of a matrix must have one length"},
-        {"[VA]=[1 2x]", "\"2x\" is no number"},
-        {"[VA]=[1,5]", "\"1,5\" is no number"},
-        {"[VA]=[1e999]", "\"1e999\" is too large"},
-        {"[VA]=[]", "A matrix has 1 to 30 rows and columns"},
-        {wide + "]", "A matrix has 1 to 30 rows and columns"},
-        {"[VA]=[1 2", "A matrix ends in \"]\""},
-        {"[VA]=[1 2][3]", "\"2][3\" is no number"},
-        {"LIST=[1 2", "\"[1\" is no number"},
-        {"LIST=", "A list holds 1 to 65535 numbers"},
-        {"LIST=1 2+3", "\"2+3\" is no number"},
-        {"LIST=inv([VB])", "A list is a matrix of one column"},
-        {"1=2", "Syntax error"},
-        {"[VA]*2=3", "Syntax error"},
-        {"sin([VB])", "Syntax error"},
-        {"inv([VC])", "Matrix inversion error"},
-        {"[VB]+1", "Matrix addition error"},
-    };
+    } rows[] = {{"[VRE]=1", "[VRE] cannot be set; variables are [VA] to [VZ], and LIST"},
+                {"[ans]=1", "[ans] cannot be set; variables are [VA] to [VZ], and LIST"},
+                {"[VLRE]=1", "[VLRE] cannot be set; variables are [VA] to [VZ], and LIST"},
+                {"[X]=1", "[X] cannot be set; variables are [VA] to [VZ], and LIST"},
+                {"[VA]=", "Syntax error"},
+                {"[VA]=1/0", "Invalid parameter(s)"},
+                {"[VA]=[1 2;3]", "The rows of a matrix must have one length"},
+                {"[VA]=[1 2;]", "The rows of a matrix must have one length"},
+                {"[VA]=[1 2x]", "\"2x\" is no number"},
+                {"[VA]=[1,5]", "\"1,5\" is no number"},
+                {"[VA]=[1e999]", "\"1e999\" is too large"},
+                {"[VA]=[]", "A matrix has 1 to 30 rows and columns"},
+                {wide + "]", "A matrix has 1 to 30 rows and columns"},
+                {"[VA]=[1 2", "A matrix ends in \"]\""},
+                {"[VA]=[1 2][3]", "\"2][3\" is no number"},
+                {"LIST=[1 2", "\"[1\" is no number"},
+                {"LIST=", "A list holds 1 to 65535 numbers"},
+                {"LIST=1 2+3", "\"2+3\" is no number"},
+                {"LIST=inv([VB])", "A list is a matrix of one column"},
+                {"1=2", "Syntax error"},
+                {"[VA]*2=3", "Syntax error"},
+                {"sin([VB])", "Syntax error"},
+                {"inv([VC])", "Matrix inversion error"},
+                {"[VB]+1", "Matrix addition error"}};
     ConsoleSession session(Parse({}).options);
     Answer(session, "[VB]=[2 0;0 2]");
     Answer(session, "[VC]=[1 2;2 4]");
@@ -290,17 +283,15 @@ TEST_F(ConsoleTest, TheProgramTellsSuccessByItsStatus) {
         std::string_view input;
         int status;
         std::string_view output, errors;
-    } rows[] = {
-        {{"1÷3+2"}, "", 0, "2.33333333333333333333333333333333\n", ""},
-        {{"-3+5"}, "", 0, "2\n", ""},
-        {{"1/0"}, "", 1, "", "Invalid parameter(s)\n"},
-        {{}, "1+2\n[ans]+1\n", 0, "3\n4\n", ""},
-        {{}, "[VA]=[1 2;3 4]\ndet([VA])\n", 0, "[1 2;3 4]\n-2\n", ""},
-        {{}, "1+2\n(\n", 1, "3\n", "Syntax error\n"},
-        {{"--digits", "none"}, "", 2, "", "quorix-calc: option --digits does not take \"none\"\n"},
-        {{"--version"}, "", 0, "quorix-calc ", ""},
-        {{"--help"}, "", 0, "Usage: quorix-calc", ""},
-    };
+    } rows[] = {{{"1÷3+2"}, "", 0, "2.33333333333333333333333333333333\n", ""},
+                {{"-3+5"}, "", 0, "2\n", ""},
+                {{"1/0"}, "", 1, "", "Invalid parameter(s)\n"},
+                {{}, "1+2\n[ans]+1\n", 0, "3\n4\n", ""},
+                {{}, "[VA]=[1 2;3 4]\ndet([VA])\n", 0, "[1 2;3 4]\n-2\n", ""},
+                {{}, "1+2\n(\n", 1, "3\n", "Syntax error\n"},
+                {{"--digits", "none"}, "", 2, "", "quorix-calc: option --digits does not take \"none\"\n"},
+                {{"--version"}, "", 0, "quorix-calc ", ""},
+                {{"--help"}, "", 0, "Usage: quorix-calc", ""}};
     for (const auto& row : rows) {
         const ProgramRun run = RunProgram(row.arguments, row.input);
         EXPECT_EQ(run.status, row.status) << row.output;

@@ -29,42 +29,22 @@ std::string Postfix(std::string_view text, int radix = 10) {
 }
 
 TEST_F(CompilerTest, DecimalTextIsCutIntoTokens) {
-    const struct {
-        std::string_view text, tokens;
-    } rows[] = {
-        {"1+2", "1 + 2"},
-        {"  (SIN 30)*[va] ", "( sin 30 ) * va"},
-        {"1.5E3%", "1.5e3 %"},
-        {"3 4", "3 4"},
-        {".5", "5"},  // A point that follows no digit is lost.
-        {"5.", "refused"},
-        {"1E-5", "1e - 5"},            // An exponent has no sign of its own.
-        {"1.2.3+PIE", "1.2.3 + pie"},  // The evaluator decides about such words.
-        {"2pi", "2pi"},
-        {"(5)", "( 5 )"},
-        {"5!", "5 !"},
-        {"[VA]", "va"},
-        {"-5", "- 5"},
-        {"5+", "refused"},  // An expression ends in a word.
-        {"5.+.", "refused"},
-        {"-", "refused"},
-        {"--", "refused"},
-        {"1--2", "refused"},  // Two minus signs in a row.
-        {"1- -2", "1 - - 2"},
-        {"", "refused"},
-        {" ])%!", "refused"},
-        {"1,2", "refused"},
-        {"1;2", "refused"},
-        {"A+B", "refused"},
-        {"lg 5", "refused"},  // Known to the compiler alone.
-        {"not 5", "refused"},
-        {"x+1", "refused"},
-        {"(1+2", "refused"},
-        {"1+2)", "refused"},
-        {"2×3", "refused"},
-        {"πr", "refused"},
-    };
-    for (const auto& row : rows) EXPECT_EQ(Tokens(row.text), row.tokens) << row.text;
+    for (const auto& [text, tokens] :
+         Rows("1+2 -> 1 + 2;   (SIN 30)*[va]  -> ( sin 30 ) * va; 1.5E3% -> 1.5e3 %; 3 4 -> 3 4; "
+              ".5 -> 5; "  // A point that follows no digit is lost.
+              "5. -> refused; "
+              "1E-5 -> 1e - 5; "            // An exponent has no sign of its own.
+              "1.2.3+PIE -> 1.2.3 + pie; "  // The evaluator decides about such words.
+              "2pi -> 2pi; (5) -> ( 5 ); 5! -> 5 !; [VA] -> va; -5 -> - 5; "
+              "5+ -> refused; "  // An expression ends in a word.
+              "5.+. -> refused; - -> refused; -- -> refused; "
+              "1--2 -> refused; "  // Two minus signs in a row.
+              "1- -2 -> 1 - - 2;  -> refused;  ])%! -> refused; 1,2 -> refused; 1;2 -> refused; "
+              "A+B -> refused; "
+              "lg 5 -> refused; "  // Known to the compiler alone.
+              "not 5 -> refused; x+1 -> refused; (1+2 -> refused; 1+2) -> refused; 2×3 -> refused; "
+              "πr -> refused"))
+        EXPECT_EQ(Tokens(text), tokens) << text;
 }
 
 TEST_F(CompilerTest, OtherRadicesBecomeSignedDecimals) {
@@ -89,7 +69,7 @@ TEST_F(CompilerTest, OtherRadicesBecomeSignedDecimals) {
         {2, "e", "refused"},
         {8, "17 and 7", "15 and 7"},
         {8, "8", "refused"},
-        {3, "1+e 2", "1+E 2"},  // An unknown radix leaves the text unchecked.
+        {3, "1+e 2", "1+E 2"}  // An unknown radix leaves the text unchecked.
     };
     for (const auto& row : rows) EXPECT_EQ(Tokens(row.text, row.radix), row.tokens) << row.text;
 }
@@ -104,58 +84,17 @@ TEST_F(CompilerTest, TheBoundNameIsAcceptedWithoutRegardToCase) {
 }
 
 TEST_F(CompilerTest, PostfixFollowsPrecedence) {
-    const struct {
-        std::string_view text, postfix;
-    } rows[] = {
-        {"1+2*3", "1 2 3 * + "},
-        {"(1+2)*3", "( 1 2 + ) 3 * "},
-        {"8/2/2", "8 2 / 2 / "},
-        {"2^3^2", "2 3 2 ^ ^ "},  // To the right.
-        {"2^3 exp 2*5", "2 3 2 exp ^ 5 * "},
-        {"sin 30 + 1", "30 sin 1 + "},
-        {"sin(30)", "( 30 ) sin "},
-        {"2*sin 30", "2 30 sin * "},
-        {"abs(-3)+1", "( 3 - ) 1 + abs "},  // The level of abs is that of the logical words.
-        {"-5+3", "5 - 3 + "},
-        {"2-(-3)", "2 ( 3 - ) - "},
-        {"1 and 2+3", "1 2 3 + and "},
-        {"7 mod 3*2", "7 3 2 * mod "},
-        {"5!%", "5 ! % "},
-        {"3 4", "3 4 "},
-        {"2*-3", "not compiled"},
-        {"2 - -3", "not compiled"},
-        {"2+!5", "not compiled"},
-        {"(2+%)5", "not compiled"},
-        {")5(7", "not compiled"},
-        {"5)(", "refused"},
-    };
-    for (const auto& row : rows) EXPECT_EQ(Postfix(row.text), row.postfix) << row.text;
-}
-
-TEST_F(CompilerTest, EachWordHasItsLevel) {
-    const struct {
-        int level;
-        std::string_view words;
-    } rows[] = {
-        {0, "( )"},
-        {1, "<< >> and or nand nor xor abs"},
-        {2, "+ -"},
-        {3, "mod shl shr rtl rtr"},
-        {4, "* /"},
-        {5, "^ ! % root"},
-        {6, "exp"},
-        {7,
-         "sin cos tan ctan asin acos atan actan lg ln log sqrt sinh cosh tanh sec csc sech csch ctanh acot "
-         "asinh acosh atanh acoth asec acsc asech acsch inv trans det rank eigl eigv diag orth tri"},
-        {8, "5 x va not cpl iexp iroot i pi"}};
-    for (const auto& row : rows) {
-        TokenList words;
-        SplitAtBlanks(Wide(row.words), words);
-        for (const Token& word : words.tokens) {
-            EXPECT_EQ(OperatorPrecedence(words.TextOf(word)), row.level) << Narrow(words.TextOf(word));
-        }
-    }
-    EXPECT_EQ(UpperKeywords().size(), 52U);
+    for (
+        const auto& [text, postfix] : Rows(
+            "1+2*3 -> 1 2 3 * + ; (1+2)*3 -> ( 1 2 + ) 3 * ; 8/2/2 -> 8 2 / 2 / ; "
+            "2^3^2 -> 2 3 2 ^ ^ ; "  // To the right.
+            "2^3 exp 2*5 -> 2 3 2 exp ^ 5 * ; sin 30 + 1 -> 30 sin 1 + ; sin(30) -> ( 30 ) sin ; "
+            "2*sin 30 -> 2 30 sin * ; "
+            "abs(-3)+1 -> ( 3 - ) 1 + abs ; "  // The level of abs is that of the logical words.
+            "-5+3 -> 5 - 3 + ; 2-(-3) -> 2 ( 3 - ) - ; 1 and 2+3 -> 1 2 3 + and ; 7 mod 3*2 -> 7 3 2 * mod ; "
+            "5!% -> 5 ! % ; 3 4 -> 3 4 ; 2*-3 -> not compiled; 2 - -3 -> not compiled; 2+!5 -> not compiled; "
+            "(2+%)5 -> not compiled; )5(7 -> not compiled; 5)( -> refused"))
+        EXPECT_EQ(Postfix(text), postfix) << text;
 }
 
 TEST_F(CompilerTest, DigitStringsInARadix) {

@@ -1,11 +1,10 @@
-#include <array>
-
 #include "engine/bound_expression.h"
 #include "engine/complex_operands.h"
 #include "engine/eval_complex.h"
 #include "engine/eval_double.h"
 #include "engine/eval_matrix.h"
 #include "engine/rewrite_solve.h"
+#include "matrix/matrix_operators.h"
 #include "support/engine_fixture.h"
 
 namespace quorix {
@@ -14,43 +13,16 @@ namespace {
 using EvaluateTest = EngineTest;
 
 TEST_F(EvaluateTest, FourFunctionExpressions) {
-    const struct {
-        std::string_view text, result;
-    } rows[] = {
-        {"1/3", "0.33333333333333333333333333333333"},
-        {"1+2*3-4/8", "6.5"},
-        {"(1+2)*(3-4)/8", "-0.375"},
-        {"-5+3", "-2"},
-        {"2-(-3)", "5"},
-        {"-(2+3)*4", "-20"},
-        {"0.1+0.2-0.3", "0"},
-        {"3 4", "3"},
-        {".5", "5"},
-        {"1.5e3", "1500"},
-        {"1e5000/1e4999", "10"},
-        {"pi-pi", "0"},
-        {"[VA]", "0"},
-        {"i*i", "-1"},
-        {"(1+i)*(1-i)", "2"},
-        {"1/i", "0-1i"},
-        {"1/0", "error -56"},
-        {"0/0", "error -56"},
-        {"1e5100", "error -56"},
-        {"1e9000", "error -56"},
-        {"0e5", "0"},
-        {"1+0e5", "error -56"},  // The underflow of the token stands when the sum looks.
-        {"0e5+1", "1"},          // The next value clears it.
-        {"1.2.3", "error -1"},
-        {"PIE", "error -1"},
-        {"1E-5", "error -1"},
-        {"2*-3", "error -1"},
-        {"1+", "error -1"},
-        {"(*)5", "error -1"},
-        {"", "error -1"},
-        {"nosuch(1)", "error -1"},
-        {"1e-64+1-1", "error -1"},
-    };
-    for (const auto& row : rows) EXPECT_EQ(Evaluate(row.text), row.result) << row.text;
+    for (const auto& [text, result] :
+         Rows("1/3 -> 0.33333333333333333333333333333333; 1+2*3-4/8 -> 6.5; (1+2)*(3-4)/8 -> -0.375; "
+              "-5+3 -> -2; 2-(-3) -> 5; -(2+3)*4 -> -20; 0.1+0.2-0.3 -> 0; 3 4 -> 3; .5 -> 5; 1.5e3 -> 1500; "
+              "1e5000/1e4999 -> 10; pi-pi -> 0; [VA] -> 0; i*i -> -1; (1+i)*(1-i) -> 2; 1/i -> 0-1i; "
+              "1/0 -> error -56; 0/0 -> error -56; 1e5100 -> error -56; 1e9000 -> error -56; 0e5 -> 0; "
+              "1+0e5 -> error -56; "  // The underflow of the token stands when the sum looks.
+              "0e5+1 -> 1; "          // The next value clears it.
+              "1.2.3 -> error -1; PIE -> error -1; 1E-5 -> error -1; 2*-3 -> error -1; 1+ -> error -1; "
+              "(*)5 -> error -1;  -> error -1; nosuch(1) -> error -1; 1e-64+1-1 -> error -1"))
+        EXPECT_EQ(Evaluate(text), result) << text;
 }
 
 TEST_F(EvaluateTest, IntegersOfOtherRadices) {
@@ -140,19 +112,17 @@ TEST_F(EvaluateTest, DoublesKnowNoStoredVariables) {
         std::u16string_view text;
         double re, im;
         std::int32_t error;
-    } rows[] = {
-        {u"1/4+x*2", 3.25, 0, 0},
-        {u"i*i", -1, 0, 0},
-        {u"(1+2*i)/(3-4*i)", -0.2, 0.4, 0},
-        {u"2*pi", 6.283185307179586, 0, 0},
-        {u"e", 2.718281828459045, 0, 0},
-        {u"-(x)", -1.5, 0, 0},
-        {u"[VA]", 0, 0, -1},
-        {u"1/0", 0, 0, -5},
-        {u"x/(x-1.5)", 0, 0, -5},
-        {u"1.2.3", 0, 0, -1},
-        {u"3 4", 3, 0, 0},
-    };
+    } rows[] = {{u"1/4+x*2", 3.25, 0, 0},
+                {u"i*i", -1, 0, 0},
+                {u"(1+2*i)/(3-4*i)", -0.2, 0.4, 0},
+                {u"2*pi", 6.283185307179586, 0, 0},
+                {u"e", 2.718281828459045, 0, 0},
+                {u"-(x)", -1.5, 0, 0},
+                {u"[VA]", 0, 0, -1},
+                {u"1/0", 0, 0, -5},
+                {u"x/(x-1.5)", 0, 0, -5},
+                {u"1.2.3", 0, 0, -1},
+                {u"3 4", 3, 0, 0}};
     for (const auto& row : rows) {
         ClearCalcError();
         const std::optional<DComplex> value = EvalToDouble(row.text, u"x", 1.5, 10);
@@ -204,14 +174,12 @@ TEST_F(EvaluateTest, SolveBecomesAProductWithTheInverse) {
     const struct {
         std::u16string_view text, rewritten;
         std::int32_t error;
-    } rows[] = {
-        {u"solve([VA],[VB])", u"inv([VA])*([VB])", 0},
-        {u"2*solve((a,b),c)+1", u"2*inv((a,b))*(c)", 0},  // What follows the call is lost.
-        {u"solve(solve(a,b),c)", u"inv(inv(a)*(b)", 0},
-        {u"solve(a)", u"solve(a)", -1},
-        {u"solve(a,b", u"solve(a,b", -1},
-        {u"det(a)", u"det(a)", 0},
-    };
+    } rows[] = {{u"solve([VA],[VB])", u"inv([VA])*([VB])", 0},
+                {u"2*solve((a,b),c)+1", u"2*inv((a,b))*(c)", 0},  // What follows the call is lost.
+                {u"solve(solve(a,b),c)", u"inv(inv(a)*(b)", 0},
+                {u"solve(a)", u"solve(a)", -1},
+                {u"solve(a,b", u"solve(a,b", -1},
+                {u"det(a)", u"det(a)", 0}};
     for (const auto& row : rows) {
         ClearCalcError();
         std::u16string text(row.text);
@@ -223,27 +191,13 @@ TEST_F(EvaluateTest, SolveBecomesAProductWithTheInverse) {
     }
 }
 
-// Stands in for the operators of the matrix layer.
-void DoubleTheMatrix(OperandStack<CalcValue>& stack, std::int32_t base) {
-    if (!HasOperands(stack, base, 1)) return;
-    for (double& element : stack.Top().data) element *= 2;
-}
-void AddNumbers(OperandStack<CalcValue>& stack, std::int32_t base) {
-    if (!HasOperands(stack, base, 2)) return;
-    qadd(stack.Top().number.re, stack.Top(1).number.re, stack.Top(1).number.re);
-    stack.Top().Clear();
-    --stack.depth;
-}
-
 TEST_F(EvaluateTest, MatrixExpressionsUseTheOperatorsHandedIn) {
-    static constexpr auto kRows =
-        std::to_array<OperatorRow<CalcValue>>({{u"tri", 1, DoubleTheMatrix}, {u"+", 2, AddNumbers}});
     const double data[] = {1, 2, 3, 4};
     SetVariableMatrix(2, 2, 2, data);
     EXPECT_EQ(Evaluate("tri([VA])", 10, EvaluationMode::matrix), "error -1");
-    SetMatrixOperators(kRows);
+    SetMatrixOperators(MatrixOperatorTable());
     const auto matrix = EvaluationMode::matrix;
-    EXPECT_EQ(Evaluate("tri([VA])", 10, matrix), "2x2: 2.000000 4.000000 6.000000 8.000000");
+    EXPECT_EQ(Evaluate("tri([VA])", 10, matrix), "2x2: 1.000000 2.000000 0.000000 -2.000000");
     EXPECT_EQ(Evaluate("[VA]", 10, matrix), "2x2: 1.000000 2.000000 3.000000 4.000000");
     EXPECT_EQ(TextOf(Variable(2)), "2x2: 1.000000 2.000000 3.000000 4.000000");
     EXPECT_EQ(Evaluate("1.5+2", 10, matrix), "3.5");

@@ -37,77 +37,40 @@ class KeyEngineTest : public EngineTest {
 };
 
 TEST_F(KeyEngineTest, StandardSequencesEndInWhatTheUserExpects) {
-    const struct {
-        std::string_view keys, result;
-    } rows[] = {
-        {"2 + 3 =", "5"},
-        {"2 + 3 * 4 =", "14"},
-        {"2 * 3 + 4 =", "10"},
-        {"2 * 3 +", "6"},  // The product is shown before the sum goes on.
-        {"8 / 2 / 2 =", "2"},
-        {"( 2 + 3 ) * 4 =", "20"},
-        {"2 * ( 3 + 4 =", "14"},  // "=" closes what is open.
-        {"2 + * 3 =", "6"},       // The second operator replaces the first.
-        {"1 + 2 * - 3 =", "0"},
-        {"+ 5 =", "5"},  // A zero stands in front.
-        {"5 - =", "-5"},
-        {"1 2 . 3 + 4 =", "7"},  // "." drops the entry.
-        {"1 2 .. 3 4 =", "12.34"},
-        {".. 5 =", "0.5"},
-        {"5 .. .. 2 =", "5.2"},
-        {"5 + .. 2 5 =", "5.25"},
-        {"5 NEG 3 =", "-53"},  // Digits extend the magnitude.
-        {"5 .. 5 NEG 5 =", "-5.55"},
-        {"NEG", "0"},
-        {"200 + 10 % =", "220"},
-        {"200 - 10 % =", "180"},
-        {"PI 2 =", "2"},
-        {"PI .. 5 =", "0.5"},
-        {"2 * PI =", "6.28318530717958647692528676655901"},
-        {"7 + 9 \u2212 =", "7"},
-        {"123456789012345678901234567890 * 10 =", "1.23456789012345678901234567890000E30"},
-        {"5 + 10 - 3 DoNothing", "12"},
-        {"9 + 4 * 5 DoNothing", "20"},  // One operator alone is applied.
-        {"12 34 =", "34"},              // A whole number replaces the entry.
-        {"4 .. 5 67 =", "67"},
-        {"3 + 12.5E1 =", "128"},
-        {"1 / 0 =", "error -56"},
-        {"1 + 2 / 0 =", "error -56"},
-        {"1 + 2 / 0 * 3 =", "error -56"},
-        {"2 + ) ", "error -8"},
-        {"2 nosuch", "error -1"},
-        {"5 sin", "0.08715574274765817355806427083747"},
-        {"5 ctan", "error -1"},  // A function that has no row.
-        {"8 ln = =", "0.73209936808644536438280607868986"},
-        {"1e6000", "error -56"},
-        {"i", "0"},
-    };
-    for (const auto& row : rows) {
-        EXPECT_EQ(Result(row.keys), row.result) << row.keys;
+    for (const auto& [keys, result] :
+         Rows("2 + 3 = -> 5; 2 + 3 * 4 = -> 14; 2 * 3 + 4 = -> 10; "
+              "2 * 3 + -> 6; "  // The product is shown before the sum goes on.
+              "8 / 2 / 2 = -> 2; ( 2 + 3 ) * 4 = -> 20; "
+              "2 * ( 3 + 4 = -> 14; "  // "=" closes what is open.
+              "2 + * 3 = -> 6; "       // The second operator replaces the first.
+              "1 + 2 * - 3 = -> 0; "
+              "+ 5 = -> 5; "  // A zero stands in front.
+              "5 - = -> -5; "
+              "1 2 . 3 + 4 = -> 7; "  // "." drops the entry.
+              "1 2 .. 3 4 = -> 12.34; .. 5 = -> 0.5; 5 .. .. 2 = -> 5.2; 5 + .. 2 5 = -> 5.25; "
+              "5 NEG 3 = -> -53; "  // Digits extend the magnitude.
+              "5 .. 5 NEG 5 = -> -5.55; NEG -> 0; 200 + 10 % = -> 220; 200 - 10 % = -> 180; PI 2 = -> 2; "
+              "PI .. 5 = -> 0.5; 2 * PI = -> 6.28318530717958647692528676655901; 7 + 9 \u2212 = -> 7; "
+              "123456789012345678901234567890 * 10 = -> 1.23456789012345678901234567890000E30; "
+              "5 + 10 - 3 DoNothing -> 12; "
+              "9 + 4 * 5 DoNothing -> 20; "  // One operator alone is applied.
+              "12 34 = -> 34; "              // A whole number replaces the entry.
+              "4 .. 5 67 = -> 67; 3 + 12.5E1 = -> 128; 1 / 0 = -> error -56; 1 + 2 / 0 = -> error -56; "
+              "1 + 2 / 0 * 3 = -> error -56; 2 + )  -> error -8; 2 nosuch -> error -1; "
+              "5 sin -> 0.08715574274765817355806427083747; "
+              "5 ctan -> error -1; "  // A function that has no row.
+              "8 ln = = -> 0.73209936808644536438280607868986; 1e6000 -> error -56; i -> 0")) {
+        EXPECT_EQ(Result(keys), result) << keys;
     }
 }
 
 TEST_F(KeyEngineTest, EqualsPressedAgainRepeats) {
-    const struct {
-        std::string_view keys, result;
-    } rows[] = {
-        {"2 + 3 = =", "8"},
-        {"2 + 3 = = =", "11"},
-        {"5 =", "5"},
-        {"5 = =", "5"},
-        {"2 + 3 = 10 =", "10"},
-        {"2 + 3 = 10 = =", "13"},
-        {"9 ^ 2 DoNothing =", "81"},
-        {"2 * 3 = = + 1 =", "19"},
-        {"2 + 3 = NEG =", "-5"},
-        {"=", "0"},
-        {"2 - 7 = =", "-12"},
-
-    };
-    for (const auto& row : rows) {
-        EXPECT_EQ(Result(row.keys), row.result) << row.keys;
-        EXPECT_EQ(Result(row.keys, KeyEngineStandard, RADIX_DEC, true), row.result)
-            << "put back: " << row.keys;
+    for (const auto& [keys, result] :
+         Rows("2 + 3 = = -> 8; 2 + 3 = = = -> 11; 5 = -> 5; 5 = = -> 5; 2 + 3 = 10 = -> 10; "
+              "2 + 3 = 10 = = -> 13; 9 ^ 2 DoNothing = -> 81; 2 * 3 = = + 1 = -> 19; 2 + 3 = NEG = -> -5; "
+              "= -> 0; 2 - 7 = = -> -12")) {
+        EXPECT_EQ(Result(keys), result) << keys;
+        EXPECT_EQ(Result(keys, KeyEngineStandard, RADIX_DEC, true), result) << "put back: " << keys;
     }
     // A repeat that fails forgets the operation.
     EXPECT_EQ(Result("8 / 0 = ="), "error -56");
@@ -125,14 +88,12 @@ TEST_F(KeyEngineTest, EnteringKeepsItsState) {
         std::string_view keys;
         EntryState state;
         int depth;
-    } rows[] = {
-        {"5", ENTRY_INTEGER, 1},       {"5 +", ENTRY_OPERATOR, 1},   {"5 ..", ENTRY_FRACTION, 1},
-        {"5 .. 2", ENTRY_FRACTION, 1}, {"PI", ENTRY_CONSTANT, 1},    {"5 =", ENTRY_NONE, 1},
-        {"5 + 3 =", ENTRY_NONE, 1},    {"5 = =", ENTRY_NONE, 1},     {"5 (", ENTRY_NONE, 1},
-        {"5 Pop", ENTRY_NONE, 0},      {"5 .", ENTRY_NONE, 0},       {"5 + .", ENTRY_NONE, 1},
-        {"5 + 3 .", ENTRY_NONE, 1},    {"5 + 3 . .", ENTRY_NONE, 0}, {"i", ENTRY_INTEGER, 0},
-        {"i 5", ENTRY_INTEGER, 1},
-    };
+    } rows[] = {{"5", ENTRY_INTEGER, 1},       {"5 +", ENTRY_OPERATOR, 1},   {"5 ..", ENTRY_FRACTION, 1},
+                {"5 .. 2", ENTRY_FRACTION, 1}, {"PI", ENTRY_CONSTANT, 1},    {"5 =", ENTRY_NONE, 1},
+                {"5 + 3 =", ENTRY_NONE, 1},    {"5 = =", ENTRY_NONE, 1},     {"5 (", ENTRY_NONE, 1},
+                {"5 Pop", ENTRY_NONE, 0},      {"5 .", ENTRY_NONE, 0},       {"5 + .", ENTRY_NONE, 1},
+                {"5 + 3 .", ENTRY_NONE, 1},    {"5 + 3 . .", ENTRY_NONE, 0}, {"i", ENTRY_INTEGER, 0},
+                {"i 5", ENTRY_INTEGER, 1}};
     for (const auto& row : rows) {
         Result(row.keys);
         EXPECT_EQ(KeyEngineEntryState(), row.state) << row.keys;
@@ -151,24 +112,14 @@ TEST_F(KeyEngineTest, DigitsFollowTheRadix) {
 }
 
 TEST_F(KeyEngineTest, PolishSequences) {
-    const struct {
-        std::string_view keys, result;
-    } rows[] = {
-        {"2 ( 3 +", "5"},
-        {"2 ( 3 ( 4 * +", "14"},
-        {"8 ( 2 /", "4"},
-        {"8 ( 2 / 5", "45"},  // A digit right behind an operator appends to the result.
-        {"5 -", "-5"},        // One operand is negated.
-        {"+", "error -1"},
-        {"5 +", "error -1"},
-        {"5 sin", "0.08715574274765817355806427083747"},
-        {"2 ( 3 =", "3"},
-        {"1 0 ( 4 DoNothing 5 *", "20"},
-        {"5 .. 2 ( PI Pop", "3.1415926535897932384626433832795"},
-        {"12 ( 5 .", "0"},
-        {"12 ( 5 . ( 2 *", "24"},
-    };
-    for (const auto& row : rows) EXPECT_EQ(Result(row.keys, KeyEngineRpn), row.result) << row.keys;
+    for (const auto& [keys, result] :
+         Rows("2 ( 3 + -> 5; 2 ( 3 ( 4 * + -> 14; 8 ( 2 / -> 4; "
+              "8 ( 2 / 5 -> 45; "  // A digit right behind an operator appends to the result.
+              "5 - -> -5; "        // One operand is negated.
+              "+ -> error -1; 5 + -> error -1; 5 sin -> 0.08715574274765817355806427083747; 2 ( 3 = -> 3; "
+              "1 0 ( 4 DoNothing 5 * -> 20; 5 .. 2 ( PI Pop -> 3.1415926535897932384626433832795; "
+              "12 ( 5 . -> 0; 12 ( 5 . ( 2 * -> 24"))
+        EXPECT_EQ(Result(keys, KeyEngineRpn), result) << keys;
     // An operator that fails leaves its operands.
     Result("5 ( 7 nosuch", KeyEngineRpn);
     EXPECT_EQ(KeyEngineDepth(), 2);

@@ -20,36 +20,34 @@ TEST_F(ResultTextTest, DecimalFormats) {
         std::int32_t formatId;
         int digits, fixedDecimals, typed;
         std::string_view mantissa, exponent;
-    } rows[] = {
-        {"0", FORMAT_NORM, 32, 4, -1, "0", ""},
-        {"1000000000000", FORMAT_NORM, 32, 4, -1, "1000000000000", ""},
-        {"1000000100000", FORMAT_NORM, 32, 4, -1, "1.00000010000000000000000000000000", "E12"},
-        {"-1e13", FORMAT_NORM, 4, 4, -1, "-1.0000", "E13"},
-        {"4e-13", FORMAT_NORM, 4, 4, -1, "4.0000", "E-13"},
-        {"5.0000000000001e-13", FORMAT_NORM, 32, 4, -1, "0.00000000000050000000000001", ""},
-        {"1234.5", FORMAT_SCI, 32, 4, -1, "1.23450000000000000000000000000000", "E3"},
-        {"0", FORMAT_SCI, 2, 4, -1, "0.00", "E0"},
-        {"2.999", FORMAT_FIX, 32, 2, -1, "3.00", ""},
-        {"0.995", FORMAT_FIX, 32, 2, -1, "1.00", ""},
-        {"5", FORMAT_FIX, 32, 2, -1, "5.00", ""},
-        {"2.5", FORMAT_FIX, 32, 0, -1, "3", ""},
-        {"5", FORMAT_FIX, 32, 0, -1, "5", ""},
-        {"9.96", FORMAT_FIX, 32, 1, -1, "10.0", ""},
-        {"-9.96", FORMAT_FIX, 32, 1, -1, "-10.0", ""},
-        {"1.2", FORMAT_FIX, 32, 4, -1, "1.2000", ""},
-        {"1.23456", FORMAT_FIX, 32, 5, -1, "1.23456", ""},
-        {"-0.004", FORMAT_FIX, 32, 2, -1, "0.00", ""},
-        {"-0.4", FORMAT_FIX, 32, 0, -1, "0", ""},
-        {"1e13", FORMAT_FIX, 2, 2, -1, "1.00", "E13"},
-        {"1", FORMAT_NORM, 32, 4, 0, "1.", ""},
-        {"1.5", FORMAT_NORM, 32, 4, 3, "1.500", ""},
-        {"1.555", FORMAT_NORM, 32, 4, 2, "1.555", ""},
-        {"123456.789", FORMAT_NORM, 2, 4, -1, "123457", ""},  // Integer digits are never lost.
-        {"123456789", FORMAT_NORM, 8, 4, -1, "123456789", ""},
-        {"999999.9", FORMAT_NORM, 5, 4, -1, "999999.9", ""},
-        {"-0.00001", FORMAT_NORM, 2, 4, -1, "0", ""},
-        {"3.14159", FORMAT_NORM, 0, 4, -1, "3", ""},
-    };
+    } rows[] = {{"0", FORMAT_NORM, 32, 4, -1, "0", ""},
+                {"1000000000000", FORMAT_NORM, 32, 4, -1, "1000000000000", ""},
+                {"1000000100000", FORMAT_NORM, 32, 4, -1, "1.00000010000000000000000000000000", "E12"},
+                {"-1e13", FORMAT_NORM, 4, 4, -1, "-1.0000", "E13"},
+                {"4e-13", FORMAT_NORM, 4, 4, -1, "4.0000", "E-13"},
+                {"5.0000000000001e-13", FORMAT_NORM, 32, 4, -1, "0.00000000000050000000000001", ""},
+                {"1234.5", FORMAT_SCI, 32, 4, -1, "1.23450000000000000000000000000000", "E3"},
+                {"0", FORMAT_SCI, 2, 4, -1, "0.00", "E0"},
+                {"2.999", FORMAT_FIX, 32, 2, -1, "3.00", ""},
+                {"0.995", FORMAT_FIX, 32, 2, -1, "1.00", ""},
+                {"5", FORMAT_FIX, 32, 2, -1, "5.00", ""},
+                {"2.5", FORMAT_FIX, 32, 0, -1, "3", ""},
+                {"5", FORMAT_FIX, 32, 0, -1, "5", ""},
+                {"9.96", FORMAT_FIX, 32, 1, -1, "10.0", ""},
+                {"-9.96", FORMAT_FIX, 32, 1, -1, "-10.0", ""},
+                {"1.2", FORMAT_FIX, 32, 4, -1, "1.2000", ""},
+                {"1.23456", FORMAT_FIX, 32, 5, -1, "1.23456", ""},
+                {"-0.004", FORMAT_FIX, 32, 2, -1, "0.00", ""},
+                {"-0.4", FORMAT_FIX, 32, 0, -1, "0", ""},
+                {"1e13", FORMAT_FIX, 2, 2, -1, "1.00", "E13"},
+                {"1", FORMAT_NORM, 32, 4, 0, "1.", ""},
+                {"1.5", FORMAT_NORM, 32, 4, 3, "1.500", ""},
+                {"1.555", FORMAT_NORM, 32, 4, 2, "1.555", ""},
+                {"123456.789", FORMAT_NORM, 2, 4, -1, "123457", ""},  // Integer digits are never lost.
+                {"123456789", FORMAT_NORM, 8, 4, -1, "123456789", ""},
+                {"999999.9", FORMAT_NORM, 5, 4, -1, "999999.9", ""},
+                {"-0.00001", FORMAT_NORM, 2, 4, -1, "0", ""},
+                {"3.14159", FORMAT_NORM, 0, 4, -1, "3", ""}};
     for (const auto& row : rows) {
         const FormatSettings settings{RADIX_DEC,         WORD_8,   row.formatId, row.digits,
                                       row.fixedDecimals, row.typed};
@@ -83,16 +81,14 @@ TEST_F(ResultTextTest, OtherRadicesArePaddedToTheWord) {
         std::int32_t radixId, wordId;
         int wordSize;
         std::string_view text;
-    } rows[] = {
-        {"255", RADIX_HEX, WORD_8, 8, "FF"},       {"256", RADIX_HEX, WORD_8, 8, "00"},
-        {"5", RADIX_BIN, WORD_8, 8, "00000101"},   {"8", RADIX_OCT, WORD_8, 8, "010"},
-        {"8", RADIX_OCT, WORD_16, 16, "000010"},   {"8", RADIX_OCT, WORD_32, 32, "00000000010"},
-        {"-1", RADIX_HEX, WORD_16, 16, "FFFF"},    {"-2.7", RADIX_HEX, WORD_32, 32, "FFFFFFFE"},
-        {"3.9", RADIX_BIN, WORD_8, 8, "00000011"}, {"1e20", RADIX_HEX, WORD_32, 32, "FFFFFFFF"},
-        {"1e400", RADIX_HEX, WORD_16, 16, "FFFF"}, {"-1e20", RADIX_HEX, WORD_32, 32, "80000000"},
-        {"1000", RADIX_HEX, WORD_16, 8, "3E8"},  // The identifier masks, the word size pads.
-        {"10", RADIX_HEX, WORD_8, 32, "0000000A"},
-    };
+    } rows[] = {{"255", RADIX_HEX, WORD_8, 8, "FF"},       {"256", RADIX_HEX, WORD_8, 8, "00"},
+                {"5", RADIX_BIN, WORD_8, 8, "00000101"},   {"8", RADIX_OCT, WORD_8, 8, "010"},
+                {"8", RADIX_OCT, WORD_16, 16, "000010"},   {"8", RADIX_OCT, WORD_32, 32, "00000000010"},
+                {"-1", RADIX_HEX, WORD_16, 16, "FFFF"},    {"-2.7", RADIX_HEX, WORD_32, 32, "FFFFFFFE"},
+                {"3.9", RADIX_BIN, WORD_8, 8, "00000011"}, {"1e20", RADIX_HEX, WORD_32, 32, "FFFFFFFF"},
+                {"1e400", RADIX_HEX, WORD_16, 16, "FFFF"}, {"-1e20", RADIX_HEX, WORD_32, 32, "80000000"},
+                {"1000", RADIX_HEX, WORD_16, 8, "3E8"},  // The identifier masks, the word size pads.
+                {"10", RADIX_HEX, WORD_8, 32, "0000000A"}};
     for (const auto& row : rows) {
         calcContext().wordSize = row.wordSize;
         const FormattedValue formatted = FormatValue(Real(row.value), {row.radixId, row.wordId, FORMAT_SCI});
@@ -105,20 +101,18 @@ TEST_F(ResultTextTest, SeparatorsFollowTheLocale) {
     const struct {
         std::string_view text;
         std::string_view european, english;
-    } rows[] = {
-        {"1234567.89", "1.234.567¸89", "1¸234¸567.89"},
-        {"-1234", "-1.234", "-1¸234"},
-        {"-123", "-123", "-123"},
-        {"\u2212123456", "\u2212123.456", "\u2212123¸456"},
-        {"123", "123", "123"},
-        {"0.123456", "0¸123456", "0.123456"},
-        {" 123456.5", "123.456¸5", "123¸456.5"},
-        {" 123", "123", "123"},
-        {"1.2345E6", "1¸2345E6", "1.2345E6"},
-        {"Syntax error", "Syntax error", "Syntax error"},
-        {"12345i", "12345i", "12345i"},
-        {"", "", ""},
-    };
+    } rows[] = {{"1234567.89", "1.234.567¸89", "1¸234¸567.89"},
+                {"-1234", "-1.234", "-1¸234"},
+                {"-123", "-123", "-123"},
+                {"\u2212123456", "\u2212123.456", "\u2212123¸456"},
+                {"123", "123", "123"},
+                {"0.123456", "0¸123456", "0.123456"},
+                {" 123456.5", "123.456¸5", "123¸456.5"},
+                {" 123", "123", "123"},
+                {"1.2345E6", "1¸2345E6", "1.2345E6"},
+                {"Syntax error", "Syntax error", "Syntax error"},
+                {"12345i", "12345i", "12345i"},
+                {"", "", ""}};
     for (const auto& row : rows) {
         std::u16string text = Wide(row.text);
         ApplySeparators(text, u"European", RADIX_DEC);
@@ -138,24 +132,22 @@ TEST_F(ResultTextTest, FractionsOfSmallDenominatorsComeBack) {
     const struct {
         double value, limit;
         std::string_view text;
-    } rows[] = {
-        {0.75, 1000, "3/4"},
-        {1.5, 1000, "1 1/2"},
-        {-0.25, 1000, "-1/4"},
-        {0.4, 1000, "2/5"},
-        {0, 1000, "0"},
-        {-0.0, 1000, "0"},
-        {0.999999999999999, 1000, "1"},
-        {7, 1000, "7"},
-        {-3.5, 1000, "-3 1/2"},
-        {M_PI, 1000, "3 16/113"},
-        {M_PI, 1e6, "3 51669/364913"},
-        {0.0001, 1000, "0"},
-        {0.0008, 1000, "1/1000"},
-        {-1e-5, 1000, "0"},
-        {0.9999, 1000, "1"},
-        {1e300, 1000, ""},
-    };
+    } rows[] = {{0.75, 1000, "3/4"},
+                {1.5, 1000, "1 1/2"},
+                {-0.25, 1000, "-1/4"},
+                {0.4, 1000, "2/5"},
+                {0, 1000, "0"},
+                {-0.0, 1000, "0"},
+                {0.999999999999999, 1000, "1"},
+                {7, 1000, "7"},
+                {-3.5, 1000, "-3 1/2"},
+                {M_PI, 1000, "3 16/113"},
+                {M_PI, 1e6, "3 51669/364913"},
+                {0.0001, 1000, "0"},
+                {0.0008, 1000, "1/1000"},
+                {-1e-5, 1000, "0"},
+                {0.9999, 1000, "1"},
+                {1e300, 1000, ""}};
     for (const auto& row : rows) {
         if (row.text.empty()) {
             EXPECT_EQ(FormatFraction(row.value, row.limit).size(), 301U);
@@ -178,19 +170,17 @@ TEST_F(ResultTextTest, ExpressionsMoveBetweenRadices) {
     const struct {
         int from, to, wordSize;
         std::string_view text, converted;
-    } rows[] = {
-        {10, 16, 8, "255 + 1", "FF+1"},
-        {10, 16, 8, "256", "0"},
-        {10, 2, 8, "5 and 3", "101 and 11"},
-        {16, 10, 32, "FFFFFFFF", "-1"},
-        {10, 16, 32, "4294967295", "FFFFFFFF"},
-        {16, 10, 16, "[VA]*A and abs(B)", "[VA]*10 and abs(11)"},
-        {16, 10, 16, "BA", "186"},
-        {10, 16, 32, "1E5", "186A0"},
-        {10, 16, 32, "2pi", "2pi"},
-        {8, 2, 8, "17 shl 2", "1111 shl 10"},
-        {10, 8, 8, "(8 * 9)", "(10*11)"},
-    };
+    } rows[] = {{10, 16, 8, "255 + 1", "FF+1"},
+                {10, 16, 8, "256", "0"},
+                {10, 2, 8, "5 and 3", "101 and 11"},
+                {16, 10, 32, "FFFFFFFF", "-1"},
+                {10, 16, 32, "4294967295", "FFFFFFFF"},
+                {16, 10, 16, "[VA]*A and abs(B)", "[VA]*10 and abs(11)"},
+                {16, 10, 16, "BA", "186"},
+                {10, 16, 32, "1E5", "186A0"},
+                {10, 16, 32, "2pi", "2pi"},
+                {8, 2, 8, "17 shl 2", "1111 shl 10"},
+                {10, 8, 8, "(8 * 9)", "(10*11)"}};
     for (const auto& row : rows) {
         calcContext().wordSize = row.wordSize;
         const auto converted = ConvertExpressionRadix(Wide(row.text), row.from, row.to);
@@ -208,31 +198,29 @@ TEST_F(ResultTextTest, TheResultRowShowsValueOrMessage) {
         std::string_view text;
         std::int32_t formatId;
     };
-    const Row rows[] = {
-        {"1/3", {}, "0.33333333333333333333333333333333", FORMAT_NORM},
-        {"10000/3", {.digits = 5}, "3¸333.33", FORMAT_NORM},
-        {"1e15", {.digits = 3}, "1.000E15", FORMAT_SCI},
-        {"1234.5", {.formatId = FORMAT_SCI, .digits = 3}, "1.234E3", FORMAT_SCI},
-        {"1234.5", {.formatId = FORMAT_FIX, .fixDigits = 2}, "1¸234.50", FORMAT_FIX},
-        {"1234.5",
-         {.formatId = FORMAT_FIX, .fixDigits = 2, .numberLocale = u"European"},
-         "1.234¸50",
-         FORMAT_FIX},
-        {"3/4", {.formatId = FORMAT_FRAC}, "3/4", FORMAT_FRAC},
-        {"12345+1/2", {.formatId = FORMAT_FRAC}, "12345 1/2", FORMAT_FRAC},
-        {"pi", {.formatId = FORMAT_FRAC, .fractionLimit = 1}, "3 51669/364913", FORMAT_FRAC},
-        {"1e20", {.formatId = FORMAT_FRAC, .digits = 2}, "1.00E20", FORMAT_SCI},
-        {"1+2*i", {}, "1.0000E0+2.0000E0i", FORMAT_SCI},
-        {"1-2*i", {.numberLocale = u"European"}, "1¸0000E0-2¸0000E0i", FORMAT_SCI},
-        {"3+i", {.formatId = FORMAT_FIX}, "3.0000E0+i", FORMAT_SCI},
-        {"i", {}, "i", FORMAT_SCI},
-        {"-i", {}, "-1.0000E0i", FORMAT_SCI},
-        {"2*i", {}, "2.0000E0i", FORMAT_SCI},
-        {"255", {.radixId = RADIX_HEX}, "FF", FORMAT_NORM},
-        {"7+i", {.radixId = RADIX_BIN, .formatId = FORMAT_FIX}, "00000111", FORMAT_FIX},
-        {"1/0", {}, "Invalid parameter(s)", FORMAT_NORM},
-        {"1+", {.radixId = RADIX_HEX}, "Syntax error", FORMAT_NORM},
-    };
+    const Row rows[] = {{"1/3", {}, "0.33333333333333333333333333333333", FORMAT_NORM},
+                        {"10000/3", {.digits = 5}, "3¸333.33", FORMAT_NORM},
+                        {"1e15", {.digits = 3}, "1.000E15", FORMAT_SCI},
+                        {"1234.5", {.formatId = FORMAT_SCI, .digits = 3}, "1.234E3", FORMAT_SCI},
+                        {"1234.5", {.formatId = FORMAT_FIX, .fixDigits = 2}, "1¸234.50", FORMAT_FIX},
+                        {"1234.5",
+                         {.formatId = FORMAT_FIX, .fixDigits = 2, .numberLocale = u"European"},
+                         "1.234¸50",
+                         FORMAT_FIX},
+                        {"3/4", {.formatId = FORMAT_FRAC}, "3/4", FORMAT_FRAC},
+                        {"12345+1/2", {.formatId = FORMAT_FRAC}, "12345 1/2", FORMAT_FRAC},
+                        {"pi", {.formatId = FORMAT_FRAC, .fractionLimit = 1}, "3 51669/364913", FORMAT_FRAC},
+                        {"1e20", {.formatId = FORMAT_FRAC, .digits = 2}, "1.00E20", FORMAT_SCI},
+                        {"1+2*i", {}, "1.0000E0+2.0000E0i", FORMAT_SCI},
+                        {"1-2*i", {.numberLocale = u"European"}, "1¸0000E0-2¸0000E0i", FORMAT_SCI},
+                        {"3+i", {.formatId = FORMAT_FIX}, "3.0000E0+i", FORMAT_SCI},
+                        {"i", {}, "i", FORMAT_SCI},
+                        {"-i", {}, "-1.0000E0i", FORMAT_SCI},
+                        {"2*i", {}, "2.0000E0i", FORMAT_SCI},
+                        {"255", {.radixId = RADIX_HEX}, "FF", FORMAT_NORM},
+                        {"7+i", {.radixId = RADIX_BIN, .formatId = FORMAT_FIX}, "00000111", FORMAT_FIX},
+                        {"1/0", {}, "Invalid parameter(s)", FORMAT_NORM},
+                        {"1+", {.radixId = RADIX_HEX}, "Syntax error", FORMAT_NORM}};
     for (const Row& row : rows) {
         ClearCalcError();
         const CalcValue value = EvaluateExpression(Wide(row.expression), EvaluationMode::number, 10);

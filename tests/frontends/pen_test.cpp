@@ -56,7 +56,9 @@ TEST(Pen, ATapPutsTheCursorOnTheToken) {
     EXPECT_EQ(rig.display->Line().Cursor(), 0);
     Tap(rig, {start + 60, y});
     EXPECT_EQ(rig.display->Line().Cursor(), 1);
-    EXPECT_EQ(rig.toolTip, u"sin(");
+    ASSERT_TRUE(rig.hint);
+    EXPECT_EQ(rig.hint->line, rig.display->GetLine());
+    EXPECT_EQ(rig.hint->cursor, 1);
     Tap(rig, {start + 95, y});
     EXPECT_EQ(rig.display->Line().Cursor(), 2);
     Tap(rig, {row.right - 3, y});

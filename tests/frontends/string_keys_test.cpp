@@ -5,19 +5,13 @@
 #include "frontends/context_menu.h"
 #include "frontends/string_key_tokens.h"
 #include "support/calculator_rig.h"
+#include "support/fake_clipboard.h"
 
 namespace quorix {
 namespace {
 
 using testing::CalculatorRig;
-
-class FakeClipboard : public Clipboard {
-  public:
-    void PutText(std::u16string_view text) override { content = text; }
-    std::u16string GetText() override { return content; }
-    bool HasText() override { return !content.empty(); }
-    std::u16string content;
-};
+using testing::FakeClipboard;
 
 TEST(StringKeys, EveryTokenKeyInsertsItsTokensWithTheirLengths) {
     for (const StringKeyTokens& row : AllStringKeyTokens()) {
@@ -259,7 +253,7 @@ TEST(StringKeys, ContextMenuMovesDisplayText) {
     EXPECT_TRUE(items[0].enabled && items[1].enabled && items[2].enabled && items[3].enabled);
     RunContextMenu(MENU_PASTE, *rig.display, clipboard);
     EXPECT_EQ(rig.Row(), "5sin(3)2");
-    EXPECT_EQ(rig.display->GetTokenLengths(), u"11111111");
+    EXPECT_EQ(rig.display->GetTokenLengths(), u"14111");
     RunContextMenu(MENU_CLEAR, *rig.display, clipboard);
     EXPECT_EQ(rig.Row(), "");
     clipboard.content.assign(1 << 20, u'1');

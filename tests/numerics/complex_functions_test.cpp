@@ -40,13 +40,12 @@ int Cotangent(mpc_ptr result, mpc_srcptr z, mpc_rnd_t round) {
 }
 
 constexpr Row kRows[] = {
-    {"qcexp", qcexp, mpc_exp},       {"qclog", qclog, mpc_log},       {"qcsqrt", qcsqrt, mpc_sqrt},
-    {"qcsin", qcsin, mpc_sin},       {"qccos", qccos, mpc_cos},       {"qctan", qctan, mpc_tan},
-    {"qccot", qccot, Cotangent},     {"qcsinh", qcsinh, mpc_sinh},    {"qccosh", qccosh, mpc_cosh},
-    {"qctanh", qctanh, mpc_tanh},    {"qcasin", qcasin, mpc_asin},    {"qcacos", qcacos, mpc_acos},
-    {"qcatan", qcatan, mpc_atan},    {"qcasinh", qcasinh, mpc_asinh}, {"qcacosh", qcacosh, mpc_acosh},
-    {"qcatanh", qcatanh, mpc_atanh},
-};
+    {"qcexp", qcexp, mpc_exp},      {"qclog", qclog, mpc_log},       {"qcsqrt", qcsqrt, mpc_sqrt},
+    {"qcsin", qcsin, mpc_sin},      {"qccos", qccos, mpc_cos},       {"qctan", qctan, mpc_tan},
+    {"qccot", qccot, Cotangent},    {"qcsinh", qcsinh, mpc_sinh},    {"qccosh", qccosh, mpc_cosh},
+    {"qctanh", qctanh, mpc_tanh},   {"qcasin", qcasin, mpc_asin},    {"qcacos", qcacos, mpc_acos},
+    {"qcatan", qcatan, mpc_atan},   {"qcasinh", qcasinh, mpc_asinh}, {"qcacosh", qcacosh, mpc_acosh},
+    {"qcatanh", qcatanh, mpc_atanh}};
 
 class MpcNumber {
   public:
@@ -130,31 +129,29 @@ TEST(ComplexFunctions, CutsAndPrincipalValues) {
         Function function;
         QComplex z;
         const char *re, *im;
-    } rows[] = {
-        {"asin(2)", qcasin, C("2", "0"), kHalfPi, kMinusAcosh2},
-        {"asin(-2)", qcasin, C("-2", "0"), kMinusHalfPi, kAcosh2},
-        {"acos(2)", qcacos, C("2", "0"), "0", kAcosh2},
-        {"acos(-2)", qcacos, C("-2", "0"), kPi, kMinusAcosh2},
-        {"acosh(2)", qcacosh, C("2", "0"), kAcosh2, "0"},
-        {"acosh(-2)", qcacosh, C("-2", "0"), kAcosh2, kPi},
-        {"acosh(0.5)", qcacosh, C("0.5", "0"), "0",
-         "1.047197551196597746154214461093167628065723133125035273658"},
-        {"atan(2i)", qcatan, C("0", "2"), kHalfPi,
-         "0.549306144334054845697622618461252852323745278911374725867"},
-        {"atan(-2i)", qcatan, C("0", "-2"), kMinusHalfPi,
-         "-0.549306144334054845697622618461252852323745278911374725867"},
-        {"atan(1e200)", qcatan, C("1e200", "0"), kHalfPi, "0"},
-        {"asinh(-1e50)", qcasinh, C("-1e50", "0"), "-115.82240183026222951031680217", "0"},
-        {"asinh(1e-50)", qcasinh, C("1e-50", "0"), "1e-50", "0"},
-        {"tanh(1e9)", qctanh, C("1e9", "0"), "1", "0"},
-        {"tan(1e9i)", qctan, C("0", "1e9"), "0", "1"},
-        {"ln(-1)", qclog, C("-1", "0"), "0", kPi},
-        {"sqrt(-4)", qcsqrt, C("-4", "0"), "0", "2"},
-        {"sqrt(3-4i)", qcsqrt, C("3", "-4"), "2", "-1"},
-        {"exp(0)", qcexp, C("0", "0"), "1", "0"},
-        {"exp(i pi)", qcexp, {QReal{}, constants::kPi}, "-1", "0"},
-        {"tan(pi)", qctan, {constants::kPi, QReal{}}, "0", "0"},
-    };
+    } rows[] = {{"asin(2)", qcasin, C("2", "0"), kHalfPi, kMinusAcosh2},
+                {"asin(-2)", qcasin, C("-2", "0"), kMinusHalfPi, kAcosh2},
+                {"acos(2)", qcacos, C("2", "0"), "0", kAcosh2},
+                {"acos(-2)", qcacos, C("-2", "0"), kPi, kMinusAcosh2},
+                {"acosh(2)", qcacosh, C("2", "0"), kAcosh2, "0"},
+                {"acosh(-2)", qcacosh, C("-2", "0"), kAcosh2, kPi},
+                {"acosh(0.5)", qcacosh, C("0.5", "0"), "0",
+                 "1.047197551196597746154214461093167628065723133125035273658"},
+                {"atan(2i)", qcatan, C("0", "2"), kHalfPi,
+                 "0.549306144334054845697622618461252852323745278911374725867"},
+                {"atan(-2i)", qcatan, C("0", "-2"), kMinusHalfPi,
+                 "-0.549306144334054845697622618461252852323745278911374725867"},
+                {"atan(1e200)", qcatan, C("1e200", "0"), kHalfPi, "0"},
+                {"asinh(-1e50)", qcasinh, C("-1e50", "0"), "-115.82240183026222951031680217", "0"},
+                {"asinh(1e-50)", qcasinh, C("1e-50", "0"), "1e-50", "0"},
+                {"tanh(1e9)", qctanh, C("1e9", "0"), "1", "0"},
+                {"tan(1e9i)", qctan, C("0", "1e9"), "0", "1"},
+                {"ln(-1)", qclog, C("-1", "0"), "0", kPi},
+                {"sqrt(-4)", qcsqrt, C("-4", "0"), "0", "2"},
+                {"sqrt(3-4i)", qcsqrt, C("3", "-4"), "2", "-1"},
+                {"exp(0)", qcexp, C("0", "0"), "1", "0"},
+                {"exp(i pi)", qcexp, {QReal{}, constants::kPi}, "-1", "0"},
+                {"tan(pi)", qctan, {constants::kPi, QReal{}}, "0", "0"}};
     ClearNumericError();
     for (const auto& row : rows) {
         QComplex result;
@@ -167,17 +164,15 @@ TEST(ComplexFunctions, CutsAndPrincipalValues) {
 TEST(ComplexFunctions, PowerConventions) {
     const struct {
         const char *re, *im, *exponent, *resultRe, *resultIm;
-    } rows[] = {
-        {"-8", "0", "0.5", "0", "2.8284271247461900976033774"},
-        {"-2", "0", "-0.5", "0", "-0.70710678118654752440084436"},
-        {"-1", "0", "1.5", "0", "-1"},
-        {"-4", "0", "-1.5", "0", "0.125"},
-        {"-2", "0", "0.3", "-1.231144413344916284499393", "0"},
-        {"-2", "0", "11", "-2048", "0"},
-        {"0", "0", "3", "0", "0"},
-        {"0", "1", "2", "-1", "0"},
-        {"4", "0", "0.5", "2", "0"},
-    };
+    } rows[] = {{"-8", "0", "0.5", "0", "2.8284271247461900976033774"},
+                {"-2", "0", "-0.5", "0", "-0.70710678118654752440084436"},
+                {"-1", "0", "1.5", "0", "-1"},
+                {"-4", "0", "-1.5", "0", "0.125"},
+                {"-2", "0", "0.3", "-1.231144413344916284499393", "0"},
+                {"-2", "0", "11", "-2048", "0"},
+                {"0", "0", "3", "0", "0"},
+                {"0", "1", "2", "-1", "0"},
+                {"4", "0", "0.5", "2", "0"}};
     for (const auto& row : rows) {
         QComplex result;
         qcpow(C(row.re, row.im), C(row.exponent, "0"), result);
@@ -201,19 +196,17 @@ TEST(ComplexFunctions, PolesAreReported) {
         const char* name;
         std::function<void(QComplex&)> call;
         int code;
-    } rows[] = {
-        {"ln(0)", [](QComplex& r) { qclog({}, r); }, NUMERIC_SINGULARITY},
-        {"atan(i)", [](QComplex& r) { qcatan(C("0", "1"), r); }, NUMERIC_SINGULARITY},
-        {"cot(0)", [](QComplex& r) { qccot({}, r); }, NUMERIC_OVERFLOW},
-        {"cot(pi)",
-         [](QComplex& r) {
-             qccot({constants::kPi, QReal{}}, r);
-         },
-         NUMERIC_OVERFLOW},
-        {"0^-1", [](QComplex& r) { qcpow({}, C("-1", "0"), r); }, NUMERIC_DOMAIN},
-        {"0^i", [](QComplex& r) { qcpow({}, C("0", "1"), r); }, NUMERIC_DOMAIN},
-        {"exp(20000+i)", [](QComplex& r) { qcexp(C("20000", "1"), r); }, NUMERIC_OVERFLOW},
-    };
+    } rows[] = {{"ln(0)", [](QComplex& r) { qclog({}, r); }, NUMERIC_SINGULARITY},
+                {"atan(i)", [](QComplex& r) { qcatan(C("0", "1"), r); }, NUMERIC_SINGULARITY},
+                {"cot(0)", [](QComplex& r) { qccot({}, r); }, NUMERIC_OVERFLOW},
+                {"cot(pi)",
+                 [](QComplex& r) {
+                     qccot({constants::kPi, QReal{}}, r);
+                 },
+                 NUMERIC_OVERFLOW},
+                {"0^-1", [](QComplex& r) { qcpow({}, C("-1", "0"), r); }, NUMERIC_DOMAIN},
+                {"0^i", [](QComplex& r) { qcpow({}, C("0", "1"), r); }, NUMERIC_DOMAIN},
+                {"exp(20000+i)", [](QComplex& r) { qcexp(C("20000", "1"), r); }, NUMERIC_OVERFLOW}};
     for (const auto& row : rows) {
         ClearNumericError();
         QComplex result;

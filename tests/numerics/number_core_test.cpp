@@ -196,18 +196,16 @@ TEST_F(NumberCore, IntegerPartsAndRounding) {
         std::int32_t integer;
         const char *fraction, *floor, *round;
     };
-    constexpr Row kRows[] = {
-        {"7.5", 7, "0.5", "7", "8"},
-        {"-7.5", -7, "0.5", "-8", "-8"},
-        {"6.5", 6, "0.5", "6", "6"},
-        {"-0.5", 0, "-0.5", "-1", "0"},
-        {"0.25", 0, "0.25", "0", "0"},
-        {"-0.75", 0, "-0.75", "-1", "-1"},
-        {"-3", -3, "0", "-3", "-3"},
-        {"2147483647.5", 2147483647, "0.5", "2147483647", "2147483648"},
-        {"-1e20", -2147483647, "0", "-1e20", "-1e20"},
-        {"1e200", 2147483647, "0", "1e200", "1e200"},
-    };
+    constexpr Row kRows[] = {{"7.5", 7, "0.5", "7", "8"},
+                             {"-7.5", -7, "0.5", "-8", "-8"},
+                             {"6.5", 6, "0.5", "6", "6"},
+                             {"-0.5", 0, "-0.5", "-1", "0"},
+                             {"0.25", 0, "0.25", "0", "0"},
+                             {"-0.75", 0, "-0.75", "-1", "-1"},
+                             {"-3", -3, "0", "-3", "-3"},
+                             {"2147483647.5", 2147483647, "0.5", "2147483647", "2147483648"},
+                             {"-1e20", -2147483647, "0", "-1e20", "-1e20"},
+                             {"1e200", 2147483647, "0", "1e200", "1e200"}};
     for (const Row& row : kRows) {
         std::int32_t n;
         QReal result;
@@ -278,11 +276,10 @@ TEST_F(NumberCore, PositionalText) {
     EXPECT_EQ(qtoplain(third, 32), " 0." + std::string(32, '3'));
     EXPECT_EQ(qtoplain(twoThirds, 32), " 0." + std::string(31, '6') + "7");
     const std::pair<const char*, const char*> rows[] = {
-        {"0", " 0"},           {"-12.5", "-12.5"},    {"1000", " 1000"},  {"0.001", " 0.001"},
-        {"0.0006", " 0.001"},  {"0.0005", " 0"},      {"0.0004", " 0"},   {"0.00006", " 0"},
-        {"0.9996", " 1"},      {"9.9996", " 10"},     {"0.0996", " 0.1"}, {"-0.0002", " 0"},
-        {"123.456", " 123.5"}, {"123456", " 123500"},
-    };
+        {"0", " 0"},           {"-12.5", "-12.5"},   {"1000", " 1000"},  {"0.001", " 0.001"},
+        {"0.0006", " 0.001"},  {"0.0005", " 0"},     {"0.0004", " 0"},   {"0.00006", " 0"},
+        {"0.9996", " 1"},      {"9.9996", " 10"},    {"0.0996", " 0.1"}, {"-0.0002", " 0"},
+        {"123.456", " 123.5"}, {"123456", " 123500"}};
     for (const auto& [value, text] : rows) EXPECT_EQ(qtoplain(Q(value), 3), text) << value;
 }
 
@@ -313,8 +310,7 @@ TEST_F(NumberCore, TextOutOfRangeIsReported) {
     constexpr Row kRows[] = {
         {"1e5100", "\nqmul overflow error\n", true},      {"-1e8192", "\nasctoq overflow error\n", true},
         {"1e32760", "\nasctoq overflow error\n", true},   {"1e-32760", "\nasctoq underflow error\n", false},
-        {"1e-8192", "\nasctoq underflow error\n", false}, {"0e5", "\nasctoq underflow error\n", false},
-    };
+        {"1e-8192", "\nasctoq underflow error\n", false}, {"0e5", "\nasctoq underflow error\n", false}};
     for (const Row& row : kRows) {
         debugText.clear();
         QReal a = constants::kOne;

@@ -45,8 +45,7 @@ constexpr Pair kArithmetic[] = {
     {"qsub", qsub, plain::Subtract},
     {"qmul", qmul, plain::Multiply},
     {"qdiv", qdiv, plain::Divide},
-    {"qmuli", [](const QReal& a, const QReal& b, QReal& c) { qmuli(a, b, c); }, plain::MultiplyShort},
-};
+    {"qmuli", [](const QReal& a, const QReal& b, QReal& c) { qmuli(a, b, c); }, plain::MultiplyShort}};
 
 void ExpectSame(const QReal& a, const QReal& b) {
     for (const Pair& pair : kArithmetic) {
@@ -97,6 +96,20 @@ TEST(PlainCore, ArithmeticAtTheEndsOfTheRangeIsTheSame) {
         ExpectSame(special[i % 4], i % 2 == 0 ? high : low);
         ExpectSame(low, high);
     }
+}
+
+TEST(PlainCore, FactorialsAreProductsFactorByFactor) {
+    QReal expected = constants::kOne, actual;
+    for (int n = 0; n <= 1500; ++n) {
+        QReal factor;
+        ltoq(n, factor);
+        if (n > 1) plain::Multiply(factor, QReal(expected), expected);
+        qfactorial(static_cast<std::uint16_t>(n), actual);
+        ASSERT_EQ(actual, expected) << n;
+    }
+    ClearNumericError();
+    qfactorial(2000, actual);
+    EXPECT_EQ(NumericErrorFlag(), NUMERIC_OVERFLOW);
 }
 
 // Products and quotients of dense mantissas reach the places near the half where only the words decide.

@@ -146,6 +146,12 @@ TEST(PngLoader, AbsurdSizesAreRefusedBeforeTheyCostMemory) {
     tall[22] = '\x10';  // The height becomes 4096 + 1 = 0x1001.
     EXPECT_TRUE(Decode(tall).pixels.empty());
     EXPECT_TRUE(Decode("GIF89a, no PNG at all").pixels.empty());
+
+    // A plain area of one bit a pixel unpacks to far more than deflate alone could give.
+    PngBuilder plain{.width = 2048, .height = 1024, .bitDepth = 1, .colorType = PNG_COLOR_TYPE_PALETTE};
+    plain.rows.resize(2048 / 8 * 1024);
+    plain.palette.resize(2);
+    EXPECT_EQ(Decode(plain.Build()).height, 1024);
 }
 
 TEST(Image, TheFirstPixelIsTheBackgroundColourAndWhiteStandsForNone) {

@@ -152,7 +152,7 @@ TEST(MainFrame, BaseConversionKillsDigitsBeyondItsBase) {
     rig.TapPad("C");
     rig.Tap(Upper(CELL_MENU));  // BIN
     rig.TapPad("9102.");
-    rig.TypeText(u"25a.1");
+    rig.TypeText(u"25.1");
     EXPECT_EQ(rig.Row(), "101");
     rig.Tap(Upper(CELL_MENU));
     EXPECT_EQ(rig.Row(), "5");

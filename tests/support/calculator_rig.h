@@ -3,6 +3,7 @@
 // A display on a bench: keys in, rows of the display out, as a user would read them.
 
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -31,8 +32,11 @@ class CalculatorRig {
             settings, &timers,
             LedParent{.invalidate = [this] { ++repaints; },
                       .send = [this](LedMessage message) { messages.push_back(message); },
-                      .hideToolTip = {},
-                      .showToolTip = [this](std::u16string_view token) { toolTip = token; }});
+                      .hideToolTip = [this] { hint.reset(); },
+                      .showToolTip =
+                          [this](std::u16string_view line, std::u16string_view lengths, int cursor) {
+                              hint = Hint{std::u16string(line), std::u16string(lengths), cursor};
+                          }});
         equals = std::make_unique<EqualsPath>(*display, nullptr);
     }
 
@@ -62,7 +66,13 @@ class CalculatorRig {
     CalculatorSettings settings;
     FakeTimers timers;
     std::vector<LedMessage> messages;
-    std::u16string toolTip;
+    /// What the display last handed to its function hints; nothing when they are hidden.
+    struct Hint {
+        std::u16string line;
+        std::u16string lengths;
+        int cursor;
+    };
+    std::optional<Hint> hint;
     int repaints = 0;
     int category = 0;
     std::unique_ptr<CLedDisplay> display;

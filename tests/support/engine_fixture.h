@@ -4,9 +4,12 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <ostream>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 #include "engine/calc_context.h"
 #include "engine/evaluate.h"
@@ -62,6 +65,18 @@ inline std::string Evaluate(std::string_view text, int radix = 10,
     const std::int32_t error = calcContext().calcError;
     ClearCalcError();
     return error != 0 ? "error " + std::to_string(error) : TextOf(value);
+}
+
+/// Pairs of a table written as "text -> result; text -> result".
+inline std::vector<std::pair<std::string, std::string>> Rows(std::string_view table) {
+    std::vector<std::pair<std::string, std::string>> rows;
+    for (std::size_t at = 0; at < table.size();) {
+        const std::size_t end = std::min(table.find("; ", at), table.size());
+        const std::size_t arrow = table.find(" -> ", at);
+        rows.emplace_back(table.substr(at, arrow - at), table.substr(arrow + 4, end - arrow - 4));
+        at = end + 2;
+    }
+    return rows;
 }
 
 class EngineTest : public testing::Test {

@@ -28,6 +28,9 @@ class FakeHost : public FrameHost {
     void ClosePopup() override { popup = 0; }
     void ShowChooser(bool open) override { Log(open ? "chooser" : "no chooser"); }
     void RunTool(Tool tool) override { Log("tool " + std::to_string(static_cast<int>(tool))); }
+    void ShowHint(const std::optional<FunctionHint>& shown) override { hint = shown; }
+    void NamesChanged() override {}
+    void ResultShown() override {}
     void ShowMissing(std::u16string_view name) override { Log("missing " + ToUtf8(name)); }
     void CreateModule(int category) override { Log("create " + std::to_string(category)); }
     void DestroyModule(ModuleWindow window) override { Log("destroy " + Number(window)); }
@@ -46,6 +49,7 @@ class FakeHost : public FrameHost {
     void Log(std::string what) { log.push_back(std::move(what)); }
     static std::string Number(ModuleWindow window) { return std::to_string(static_cast<int>(window)); }
     std::vector<std::string> log;
+    std::optional<FunctionHint> hint;
     int fullRepaints = 0;
     int displayRepaints = 0;
     std::vector<PanelCell> cells;

@@ -156,11 +156,17 @@ TEST_F(MainFrameWndTest, APressRepaintsItsCellAlone) {
 TEST_F(MainFrameWndTest, ListsOpenAtTheirKeys) {
     const auto window = Open();
     Tap(*window, {Panel::upper, CELL_MENU});
-    auto* menu = window->findChild<QMenu*>();
-    ASSERT_NE(menu, nullptr);
-    ASSERT_EQ(menu->actions().size(), 7);
-    menu->actions()[6]->trigger();
+    ASSERT_NE(window->Popup(), nullptr);
+    ASSERT_EQ(window->Popup()->Model().Items().size(), 7U);
+    for (const int key : {Qt::Key_End, Qt::Key_Return}) {
+        Press(*window, key);
+    }
     EXPECT_EQ(Row(*window), "fib(");
+    EXPECT_EQ(window->Popup(), nullptr);
+    Tap(*window, {Panel::upper, CELL_MENU});
+    Tap(*window, {Panel::lower, KEY_7});
+    EXPECT_EQ(window->Popup(), nullptr) << "a tap outside closes the list";
+    EXPECT_EQ(Row(*window), "fib(") << "and does nothing else";
 }
 
 TEST_F(MainFrameWndTest, AMissingSkinEndsTheStartAndMissingPicturesDoNot) {

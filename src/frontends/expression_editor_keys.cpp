@@ -1,8 +1,8 @@
-// The expression editor: keys of the mode "String-Standard".
+// The keys of the expression editor.
 
 #include "engine/format_value.h"
 #include "engine/number_locale.h"
-#include "frontends/led_display.h"
+#include "frontends/expression_editor.h"
 #include "frontends/memory_text.h"
 #include "frontends/string_key_tokens.h"
 
@@ -10,12 +10,27 @@ namespace quorix {
 
 namespace {
 
-constexpr std::u16string_view kMacroEditingText = u"macro editing ...";
 constexpr int kWideStep = 10;
+
+constexpr std::int32_t NextOf(std::int32_t value, std::int32_t first, std::int32_t last) {
+    return value >= last || value < first ? first : value + 1;
+}
+
+/// The order in which the format key steps.
+constexpr std::int32_t kFormatCycle[] = {FORMAT_NORM, FORMAT_FIX, FORMAT_SCI, FORMAT_FRAC};
+
+constexpr std::int32_t NextFormat(std::int32_t format) {
+    for (std::size_t i = 0; i < std::size(kFormatCycle); ++i) {
+        if (kFormatCycle[i] == format) {
+            return kFormatCycle[(i + 1) % std::size(kFormatCycle)];
+        }
+    }
+    return FORMAT_NORM;
+}
 
 }  // namespace
 
-bool CLedDisplay::LineKey(std::int32_t code) {
+bool ExpressionEditor::LineKey(std::int32_t code) {
     switch (code) {
         case KEY_NEXT_LINE: line_ = (line_ + 1) % kLineCount; return true;
         case KEY_PREVIOUS_LINE: line_ = (line_ + kLineCount - 1) % kLineCount; return true;
@@ -28,7 +43,7 @@ bool CLedDisplay::LineKey(std::int32_t code) {
     }
 }
 
-bool CLedDisplay::CursorKey(std::int32_t code) {
+bool ExpressionEditor::CursorKey(std::int32_t code) {
     switch (code) {
         case KEY_LEFT: EditedLine().MoveLeft(1); return true;
         case KEY_RIGHT: EditedLine().MoveRight(1); return true;
@@ -38,7 +53,7 @@ bool CLedDisplay::CursorKey(std::int32_t code) {
     }
 }
 
-bool CLedDisplay::MemoryKey(std::int32_t code) {
+bool ExpressionEditor::MemoryKey(std::int32_t code) {
     if (code >= KEY_M1 && code <= KEY_M5) {
         memory_ = code;
     } else if (code == KEY_NEXT_MEMORY) {
@@ -51,22 +66,23 @@ bool CLedDisplay::MemoryKey(std::int32_t code) {
     return true;
 }
 
-void CLedDisplay::InsertTokensOf(std::int32_t code) {
-    if (code == KEY_POINT) {
-        const char16_t sign = SignsOf(settings_.numberLocale).decimal;
-        EditedLine().InsertToken(Line().Cursor(), {&sign, 1});
-    } else if (const StringKeyTokens* row = FindStringKeyTokens(code)) {
+void ExpressionEditor::InsertTokensOf(std::int32_t code) {
+    const StringKeyTokens* const row = FindStringKeyTokens(code);
+    if (row == nullptr && code != KEY_POINT) {
+        return;
+    }
+    const EditStep step(*this);
+    if (row != nullptr) {
         EditedLine().InsertToken(Line().Cursor(), row->first);
         EditedLine().InsertToken(Line().Cursor(), row->second);
     } else {
-        return;
+        const char16_t sign = SignsOf(settings_.numberLocale).decimal;
+        EditedLine().InsertToken(Line().Cursor(), {&sign, 1});
     }
-    if (macroEditing_) {
-        SetResultText(kMacroEditingText);
-    }
+    TextInserted();
 }
 
-void CLedDisplay::StoreStringResult() {
+void ExpressionEditor::StoreResult() {
     if (resultText_.empty() || !resultIsValue_) {
         return;  // a message is no value
     }
@@ -83,39 +99,71 @@ void CLedDisplay::StoreStringResult() {
     }
 }
 
-void CLedDisplay::RecallInString() {
+void ExpressionEditor::Recall() {
     const std::u16string& memory = CurrentMemory();
     // "2+" and a memory of -3 are 2+(-3): two operators in a row are refused.
     const bool needsParentheses = memory.starts_with(u'-') && !Line().IsEmpty();
     InsertText(needsParentheses ? u'(' + memory + u')' : memory, false);
 }
 
-void CLedDisplay::EqualsInString() {
-    if (parent_.hideToolTip) {
-        parent_.hideToolTip();
-    }
+void ExpressionEditor::PushLinesDown() {
+    EqualsPressed();
     if (Line().IsEmpty()) {
         return;
     }
     showEquals_ = true;
     // The lines below are the history: each takes what stood above it, the current line keeps its text.
     auto& lines = lines_[Index(page_)];
+    auto& histories = histories_[Index(page_)];
     for (int k = kLineCount - 2; k >= line_; --k) {
         lines[Index(k + 1)] = lines[Index(k)];
+        histories[Index(k + 1)] = k == line_ ? LineHistory{} : std::move(histories[Index(k)]);
     }
 }
 
-void CLedDisplay::StringKey(std::int32_t code) {
-    if (LineKey(code) || CursorKey(code) || MemoryKey(code)) {
+void ExpressionEditor::EditKey(std::int32_t code) {
+    if (LineKey(code) || CursorKey(code)) {
+        CursorMoved();
+        return;
+    }
+    if (MemoryKey(code)) {
         return;
     }
     switch (code) {
+        case KEY_STORE: StoreResult(); return;
+        case KEY_EQUALS: PushLinesDown(); return;
         case KEY_CLEAR: ClearLine(); return;
-        case KEY_DELETE: EditedLine().DeleteToken(Line().Cursor()); return;
-        case KEY_STORE: StoreStringResult(); return;
-        case KEY_RECALL: RecallInString(); return;
-        case KEY_EQUALS: EqualsInString(); return;
+        case KEY_RECALL: Recall(); return;
+        case KEY_DELETE: {
+            const EditStep step(*this);
+            EditedLine().DeleteToken(Line().Cursor());
+            return;
+        }
         default: InsertTokensOf(code); return;
+    }
+}
+
+bool ExpressionEditor::ModeKey(std::int32_t code) {
+    switch (code) {
+        case KEY_BASE: base_ = NextOf(base_, RADIX_BIN, RADIX_HEX); return true;
+        case KEY_BIN:
+        case KEY_OCT:
+        case KEY_DEC:
+        case KEY_HEX: base_ = code; return true;
+        case KEY_ANGLE: angle_ = NextOf(angle_, ANGLE_DEG, ANGLE_GRAD); return true;
+        case KEY_DEG:
+        case KEY_RAD:
+        case KEY_GRAD: angle_ = code; return true;
+        case KEY_FORMAT: format_ = NextFormat(format_); return true;
+        case KEY_FIX:
+        case KEY_NORM:
+        case KEY_SCI:
+        case KEY_FRAC: format_ = code; return true;
+        case KEY_WORD_SIZE: wordSize_ = NextOf(wordSize_, WORD_8, WORD_32); return true;
+        case KEY_8_BIT:
+        case KEY_16_BIT:
+        case KEY_32_BIT: wordSize_ = code; return true;
+        default: return false;
     }
 }
 
