@@ -97,8 +97,9 @@ enum FrameMessage : int {
 
 inline constexpr Rect kPortraitUpperWindow{3, 3, 237, 138};
 inline constexpr Rect kLandscapeUpperWindow{3, 1, 317, 106};
-inline constexpr Rect kPortraitClient{0, 0, 240, 294};
-inline constexpr Rect kLandscapeClient{0, 0, 320, 214};
+/// The client area within its two frame lines.
+inline constexpr Rect kPortraitClient{2, 2, 238, 292};
+inline constexpr Rect kLandscapeClient{2, 2, 318, 212};
 
 inline constexpr std::array<CategoryEntry, kCategoryCount> kCategoryEntries = {{
     {CATEGORY_ARITHMETIC,
@@ -216,7 +217,7 @@ constexpr Rect WindowPlaceOf(int category, Orientation orientation) {
         return entry.landscape;
     }
     Rect place = entry.portrait;
-    constexpr int kSquareBottom = 242;
+    constexpr int kSquareBottom = 240;
     if (orientation == Orientation::square && place.bottom > kSquareBottom) {
         place.bottom = kSquareBottom;
     }

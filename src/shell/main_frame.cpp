@@ -318,7 +318,7 @@ void CMainFrame::OnLedMessage(LedMessage message) {
     switch (message) {
         case LED_FORMAT_CHANGED: equals_->FormatChanged(); break;
         case LED_BASE_TAPPED: CycleBase(*display_); break;
-        case LED_TEX_BUTTON: break;
+        case LED_TEX_BUTTON: host_.ShowMissing(u"The equation view"); break;
     }
 }
 

@@ -29,7 +29,7 @@ Rect ModuleWnd::ChooserKey() const {
     const Rect place = WindowPlaceOf(category_, site_.Frame().CurrentOrientation());
     constexpr int kMargin = 3;
     const int left = std::max(place.left, kMargin);
-    const int bottom = place.bottom - (place.top == 0 ? kMargin : 0);
+    const int bottom = place.bottom - (EntryOf(category_).ground == PageGround::window ? 1 : 0);
     return {left, bottom - kKeyHeight, left + kKeyWidth, bottom};
 }
 
