@@ -151,7 +151,7 @@ QImage Base() {
 
 /// A page of the preferences, by its number.
 QImage PreferencesPage(int page) {
-    constexpr double kPixelsPerUnit = 1.4;
+    constexpr double kPixelsPerUnit = 1.3;
     Stage stage;
     const fs::path folder = stage.Window().Folder();
     PreferencesDialog dialog(nullptr, stage.Frame().UserSettings(),
@@ -165,23 +165,33 @@ QImage PreferencesPage(int page) {
     return dialog.grab().toImage();
 }
 
+/// A window at a width that suits a page. Viewers of help pages scale pictures badly, so they get them as
+/// wide as they are to be shown.
+QImage AtWidth(const QImage& window, int width) {
+    return window.convertToFormat(QImage::Format_RGB32).scaledToWidth(width, Qt::SmoothTransformation);
+}
+
+constexpr int kLarge = 360;
+constexpr int kSmall = 300;
+constexpr int kWide = 480;
+
 struct ManualPicture {
     const char* file;
     std::function<QImage()> draw;
 };
 
 const ManualPicture kPictures[] = {
-    {"main.png", MainWindow},
-    {"black.png", BlackSkin},
+    {"main.png", [] { return AtWidth(MainWindow(), kLarge); }},
+    {"black.png", [] { return AtWidth(BlackSkin(), kSmall); }},
     {"display.png", Display},
-    {"landscape.png", Landscape},
-    {"trigonometry.png", ShiftOn},
-    {"typeahead.png", NamesList},
-    {"functions.png", FunctionList},
-    {"hint.png", Hint},
-    {"chooser.png", Chooser},
-    {"rpn.png", ReversePolish},
-    {"base.png", Base},
+    {"landscape.png", [] { return AtWidth(Landscape(), kWide); }},
+    {"trigonometry.png", [] { return AtWidth(ShiftOn(), kSmall); }},
+    {"typeahead.png", [] { return AtWidth(NamesList(), kSmall); }},
+    {"functions.png", [] { return AtWidth(FunctionList(), kSmall); }},
+    {"hint.png", [] { return AtWidth(Hint(), kSmall); }},
+    {"chooser.png", [] { return AtWidth(Chooser(), kSmall); }},
+    {"rpn.png", [] { return AtWidth(ReversePolish(), kSmall); }},
+    {"base.png", [] { return AtWidth(Base(), kSmall); }},
     {"preferences-general.png", [] { return PreferencesPage(0); }},
     {"preferences-categories.png", [] { return PreferencesPage(1); }},
     {"preferences-skins.png", [] { return PreferencesPage(3); }},

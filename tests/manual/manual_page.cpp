@@ -71,7 +71,11 @@ void ManualPage::ReadExamples() {
             }
         } else if (piece.content == "td") {
             const std::string kind = piece.kind == Kind::open ? piece.Attribute("class") : std::string();
-            cell = kind == "k" ? &row.keys : kind == "l" ? &row.line : kind == "r" ? &row.result : nullptr;
+            cell = kind == "k"   ? &row.keys
+                   : kind == "l" ? &row.line
+                   : kind == "r" ? &row.result
+                   : kind == "o" ? &row.settings["options"]
+                                 : nullptr;
         } else if (piece.content == "br" && cell != nullptr) {
             *cell += ' ';
         }

@@ -2,16 +2,27 @@
 
 // The manual as its tests see it: examples, anchors, links, pictures.
 
+#include <iterator>
 #include <map>
 #include <set>
 #include <string>
 #include <vector>
 
+#include "frontends/categories.h"
 #include "manual/html_reader.h"
 
 namespace quorix::testing {
 
-/// One row of an example table (class "ex"): cells of the classes "k" (keys), "l" (line) and "r" (result).
+/// Anchors of the sections of the categories, by id.
+inline constexpr const char* kCategoryAnchors[] = {
+    "arithmetic", "trigonometry", "base-conversion", "statistics", "matrix",   "finance",
+    "tip",        "units",        "currencies",      "constants",  "biorythm", "macros",
+    "equations",  "graph",        "date-time",       "formulas",
+};
+static_assert(std::size(kCategoryAnchors) == kCategoryCount);
+
+/// One row of an example table (class "ex"): cells of the classes "k" (keys), "l" (line), "r" (result) and
+/// "o" (options of quorix-calc).
 struct ManualExample {
     std::string keys;
     /// Nothing where the row does not show the line.

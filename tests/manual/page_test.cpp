@@ -20,14 +20,6 @@ using testing::HtmlPiece;
 using testing::ManualPage;
 using testing::PrintedLabel;
 
-/// Anchors of the sections of the categories, by id.
-constexpr const char* kCategoryAnchors[] = {
-    "arithmetic", "trigonometry", "base-conversion", "statistics", "matrix",   "finance",
-    "tip",        "units",        "currencies",      "constants",  "biorythm", "macros",
-    "equations",  "graph",        "date-time",       "formulas",
-};
-static_assert(std::size(kCategoryAnchors) == kCategoryCount);
-
 constexpr std::uintmax_t kMostPictureBytes = 1'000'000;
 constexpr int kLastErrorCode = -57;
 
@@ -74,7 +66,7 @@ TEST(ManualPage, PicturesExistAreUsedAndSmall) {
 TEST(ManualPage, TellsOfEveryCategoryAndEveryKeyOfItsPage) {
     const ManualPage page;
     for (int category = 0; category < kCategoryCount; ++category) {
-        const char* const anchor = kCategoryAnchors[category];
+        const char* const anchor = testing::kCategoryAnchors[category];
         EXPECT_EQ(page.Anchors().count(anchor), 1U);
         EXPECT_NE(page.Text().find(ToUtf8(kCategoryNames[static_cast<std::size_t>(category)])),
                   std::string::npos);
