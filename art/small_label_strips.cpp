@@ -86,6 +86,13 @@ void DrawSmallFonts(Picture& picture, const Tools& tools) {
     LayShift(picture, tools);
 }
 
+void DrawChooserLabels(Picture& picture, const Tools& tools) {
+    constexpr int kCategories = 16;
+    for (int category = 0; category < kCategories; ++category) {
+        LayChooser(picture, tools, OriginOf(category), category);
+    }
+}
+
 template <int category>
 void DrawSmallFontsPage(Picture& picture, const Tools& tools) {
     LayChooser(picture, tools, OriginOf(0), category);

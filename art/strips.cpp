@@ -20,6 +20,7 @@ constexpr Strip kSkinStrips[] = {
     {"SmallFontsMatrix", 396, 24, Ground::kTransparent, DrawSmallFontsPage<4>},
     {"SmallFontsFinance", 396, 24, Ground::kTransparent, DrawSmallFontsPage<5>},
     {"SmallFontsGeneral", 198, 24, Ground::kTransparent, DrawSmallFontsGeneral},
+    {"ChooserLabels", 528, 24, Ground::kTransparent, DrawChooserLabels},
     {"Category", 384, 48, Ground::kTransparent, DrawCategory},
     {"CategoryLabels", 928, 40, Ground::kTransparent, DrawCategoryLabels},
     {"CategoryButtons", 174, 45, Ground::kSheet, DrawCategoryButtons},

@@ -67,6 +67,7 @@ void DrawLargeButtonsSquare(Picture& picture, const Tools& tools);
 void DrawLargeFonts(Picture& picture, const Tools& tools);
 void DrawLargeFontsSquare(Picture& picture, const Tools& tools);
 void DrawSmallFonts(Picture& picture, const Tools& tools);
+void DrawChooserLabels(Picture& picture, const Tools& tools);
 template <int category>
 void DrawSmallFontsPage(Picture& picture, const Tools& tools);
 void DrawSmallFontsGeneral(Picture& picture, const Tools& tools);

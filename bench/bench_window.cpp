@@ -77,8 +77,18 @@ void RegisterRepaints(MainFrameWnd& window) {
     const auto switchCategory = RepaintAfter(window, [](MainFrameWnd& shown, bool odd) {
         shown.Frame().SwitchCategory(odd ? CATEGORY_ARITHMETIC : CATEGORY_TRIGONOMETRY);
     });
+    const auto switchWindow = RepaintAfter(window, [](MainFrameWnd& shown, bool odd) {
+        shown.Frame().SwitchCategory(odd ? CATEGORY_ARITHMETIC : CATEGORY_MACROS);
+    });
+    const auto changeSkin = RepaintAfter(window, [](MainFrameWnd& shown, bool odd) {
+        Preferences settings = shown.Frame().UserSettings();
+        settings.skinFile = odd ? u"default.inf" : u"Black Skin.inf";
+        shown.Frame().ApplyPreferences(settings);
+    });
     bench::RegisterPair("key press : full repaint", press, everything, 0.2);
     bench::RegisterPair("category : full repaint", switchCategory, everything, 3.0);
+    bench::RegisterPair("category with a window : full repaint", switchWindow, everything, 3.0);
+    bench::RegisterPair("skin : full repaint", changeSkin, everything, 10.0);
 }
 
 }  // namespace

@@ -50,6 +50,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         } else if (byte == kFirstGesture + 3) {
             category = (category + 1) % 12;
             display.SetCategory(category);
+        } else if (byte == kFirstGesture + 4) {
+            display.Undo();
+        } else if (byte == kFirstGesture + 5) {
+            display.Redo();
         } else {
             display.PenUp({(byte - kFirstGesture) * 30, 4 + (byte & 1) * 40}, 2);
         }

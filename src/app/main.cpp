@@ -11,8 +11,8 @@
 #include "matrix/matrix_operators.h"
 #include "platform/program_folder.h"
 #include "platform/qt/fonts.h"
+#include "platform/qt/lazy_sound.h"
 #include "platform/qt/qt_help_viewer.h"
-#include "platform/qt/qt_sound.h"
 #include "platform/qt/qt_wait_cursor.h"
 #include "platform/qt/single_instance.h"
 #include "platform/qt/termination.h"
@@ -47,15 +47,16 @@ int main(int argc, char** argv) {
     if (!instance.TryBecomeFirst()) {
         return 0;
     }
-    quorix::QtSoundPlayer sound;
+    quorix::LazySound sound;
     quorix::QtHelpViewer helpViewer;
     window.emplace(folder, &sound, &helpViewer);
     if (!window->Create()) {
         return EndStart(window->SkinPathTried());
     }
+    window->SetClosed([] { QApplication::quit(); });
     quorix::QtWaitCursor waitCursor;
     quorix::SetBusySignal([&waitCursor](bool busy) { busy ? waitCursor.Show() : waitCursor.Hide(); });
-    const quorix::TerminationRequests termination([&window] { window->close(); });
+    const quorix::TerminationRequests termination([&window] { window->Quit(); });
     window->show();
     return QApplication::exec();
 }

@@ -159,6 +159,10 @@ void ExpressionEditor::SetCursor(int at) {
 
 void ExpressionEditor::ShowInRoom(std::span<const int> tokenWidths, int room) {
     tokenWidths_.assign(tokenWidths.begin(), tokenWidths.end());
+    if (room != room_) {
+        room_ = room;
+        EditedLine().RefillView();
+    }
     EditedLine().UpdateView(tokenWidths, room);
 }
 

@@ -172,6 +172,8 @@ class ExpressionEditor {
     std::array<std::array<LineHistory, kLineCount>, kPageCount> histories_;
     std::array<std::array<std::u16string, kPageCount>, kMemoryCount> memories_;
     std::vector<int> tokenWidths_;
+    /// For which the view was found last.
+    int room_ = 0;
     bool inStep_ = false;
 };
 

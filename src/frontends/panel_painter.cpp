@@ -20,6 +20,7 @@ constexpr int kLargeLabelRows = 4;
 constexpr int kCapCorner = 8;    // Units that a cap's corners keep when it is stretched.
 constexpr int kPressedDrop = 2;  // Units that a pressed label stands lower.
 
+constexpr TextFont kWordFont = {.em = 12};
 constexpr TextFont kLandscapeFont = {.em = 14, .weight = kBoldWeight};
 
 QRect ToQRect(const Rect& rect) {
@@ -94,7 +95,26 @@ void PanelPainter::PaintCell(QPainter& painter, Orientation orientation, int sca
                              bool down) {
     const QRect place = ToQRect(CellRect(orientation, cell).Scaled(scale));
     PaintCap(painter, cell.panel, CapRowOf(cell), CellRect(orientation, cell).Scaled(scale), down, scale);
-    const Label label = LabelOf(cell);
+    PaintLabel(painter, place, LabelOf(cell), down, scale);
+}
+
+void PanelPainter::PaintLowerCellAs(QPainter& painter, Orientation orientation, int scale, int cell,
+                                    bool down, int labelOf, const QString& text) {
+    const PanelCell panelCell{Panel::lower, cell};
+    const Rect rect = CellRect(orientation, panelCell).Scaled(scale);
+    PaintCap(painter, Panel::lower, CapRowOf(panelCell), rect, down, scale);
+    if (text.isEmpty()) {
+        PaintLabel(painter, ToQRect(rect), {&largeLabels_, labelOf}, down, scale);
+        return;
+    }
+    painter.setFont(ScreenFont(kWordFont, scale));
+    painter.setPen(Qt::white);
+    painter.drawText(ToQRect(rect).translated(0, down ? kPressedDrop * scale : 0),
+                     Qt::AlignCenter | Qt::TextSingleLine, text);
+}
+
+void PanelPainter::PaintLabel(QPainter& painter, const QRect& place, const Label& label, bool down,
+                              int scale) {
     if (label.grid->picture.isNull()) {
         return;
     }

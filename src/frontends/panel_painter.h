@@ -43,6 +43,9 @@ class PanelPainter {
 
     /// One key: its cap and its label. A pressed label stands two units lower.
     void PaintCell(QPainter& painter, Orientation orientation, int scale, PanelCell cell, bool down);
+    /// The same with other words on it: the label of another lower key, or a text when `text` is not empty.
+    void PaintLowerCellAs(QPainter& painter, Orientation orientation, int scale, int cell, bool down,
+                          int labelOf, const QString& text);
     /// A cap of a row (UpperCapRow or LowerCapRow) at a place in device pixels, for windows with keys of
     /// their own.
     void PaintCap(QPainter& painter, Panel panel, int row, const Rect& place, bool down, int scale);
@@ -69,6 +72,7 @@ class PanelPainter {
         int index;
     };
 
+    void PaintLabel(QPainter& painter, const QRect& place, const Label& label, bool down, int scale);
     const QImage& CapPicture(Panel panel, int row, QSize size, bool down, int scale);
     [[nodiscard]] Label LabelOf(PanelCell cell) const;
 

@@ -6,6 +6,7 @@
 #include "engine/number_locale.h"
 #include "engine/text_fold.h"
 #include "frontends/display_symbols.h"
+#include "frontends/foreign_signs.h"
 #include "frontends/function_hints.h"
 #include "frontends/key_codes.h"
 #include "frontends/key_names.h"
@@ -20,26 +21,6 @@ namespace {
 constexpr std::size_t kLongestPaste = 4 * kLongestLine;
 constexpr std::size_t kGroup = 3;
 
-struct ForeignSign {
-    char16_t sign;
-    std::u16string_view token;
-};
-
-constexpr ForeignSign kSigns[] = {
-    {u'*', u"\u00D7"},     {0x00B7, u"\u00D7"}, {0x2217, u"\u00D7"}, {0x2219, u"\u00D7"}, {0x22C5, u"\u00D7"},
-    {0x2022, u"\u00D7"},   {0x2715, u"\u00D7"}, {0x2062, u"\u00D7"}, {u'/', u"\u00F7"},   {0x2044, u"\u00F7"},
-    {0x2215, u"\u00F7"},   {u'-', u"\u2212"},   {0x2010, u"\u2212"}, {0x2011, u"\u2212"}, {0x2012, u"\u2212"},
-    {0x2013, u"\u2212"},   {0x2014, u"\u2212"}, {0xFF0D, u"\u2212"}, {0xFF0B, u"+"},      {u';', u","},
-    {kDisplayComma, u","}, {0x03C0, u"pi"},     {0x02C6, u"^"},
-};
-
-/// Superscripts, each with what it raises.
-constexpr std::pair<char16_t, char16_t> kSuperscripts[] = {
-    {0x2070, u'0'}, {0x00B9, u'1'}, {0x00B2, u'2'}, {0x00B3, u'3'}, {0x2074, u'4'}, {0x2075, u'5'},
-    {0x2076, u'6'}, {0x2077, u'7'}, {0x2078, u'8'}, {0x2079, u'9'}, {0x207A, u'+'}, {0x207B, symbols::kMinus},
-    {0x207D, u'('}, {0x207E, u')'}, {0x207F, u'n'}, {0x2071, u'i'}, {0x02E3, u'x'},
-};
-
 /// Root signs, each with the degree that it has when none stands before it.
 constexpr std::pair<char16_t, std::u16string_view> kRoots[] = {
     {symbols::kRoot, u"2"}, {0x221B, u"3"}, {0x221C, u"4"}};
@@ -50,14 +31,6 @@ constexpr std::u16string_view kMagnitude = u"abs";
 /// Signs that stand for the name of a function when a parenthesis follows.
 constexpr std::u16string_view kCallSigns = u"\u222B\u03B4\u0192\u220F\u2211";
 
-constexpr bool IsBlank(char16_t c) {
-    return c == u' ' || (c >= u'\t' && c <= u'\r') || c == 0x00A0 || (c >= 0x2000 && c <= 0x200A) ||
-           c == 0x2028 || c == 0x2029 || c == 0x202F || c == 0x205F || c == 0x3000;
-}
-constexpr bool IsUnseen(char16_t c) {
-    return c < u' ' || (c >= 0x7F && c < 0xA0) || c == 0x00AD || (c >= 0x200B && c <= 0x200F) ||
-           (c >= 0x2060 && c <= 0x2061) || (c >= 0xD800 && c <= 0xDFFF) || c == 0xFEFF;
-}
 constexpr bool IsHexLetter(char16_t c) {
     return (c >= u'A' && c <= u'F') || (c >= u'a' && c <= u'f');
 }
@@ -71,33 +44,6 @@ constexpr bool IsNeutralSeparator(char16_t c) {
     return c == u' ' || c == u'\'' || c == 0x2019;
 }
 
-char16_t RaisedBy(char16_t c) {
-    for (const auto& [superscript, raised] : kSuperscripts) {
-        if (superscript == c) {
-            return raised;
-        }
-    }
-    return 0;
-}
-
-/// The text with every run of blanks as one blank and without what cannot be seen.
-std::u16string Tidy(std::u16string_view text) {
-    std::u16string tidy;
-    for (const char16_t c : text.substr(0, kLongestPaste)) {
-        if (IsBlank(c)) {
-            if (!tidy.ends_with(u' ')) {
-                tidy += u' ';
-            }
-        } else if (!IsUnseen(c)) {
-            tidy += c;
-        }
-    }
-    while (!tidy.empty() && (tidy.back() == u' ' || tidy.back() == u'=')) {
-        tidy.pop_back();
-    }
-    return tidy;
-}
-
 /// A number as it stands in the text, and how many of its groups one reading of the separators takes.
 struct NumberReading {
     std::size_t groups = 1;
@@ -107,7 +53,7 @@ struct NumberReading {
 class PasteReader {
   public:
     PasteReader(std::u16string_view text, std::u16string_view numberLocale, int radix)
-        : text_(Tidy(text)), decimal_(SignsOf(numberLocale).decimal), radix_(radix) {}
+        : text_(TidyText(text, kLongestPaste)), decimal_(SignsOf(numberLocale).decimal), radix_(radix) {}
 
     TokenText Read() {
         while (at_ < text_.size() && out_.text.size() < kLongestLine) {
@@ -220,9 +166,8 @@ void PasteReader::ReadOne() {
         Open({call, 2}, true);
         at_ += 2;
     } else if (!ReadRoot() && !ReadBracket()) {
-        const auto* const sign = std::find_if(std::begin(kSigns), std::end(kSigns),
-                                              [c](const ForeignSign& row) { return row.sign == c; });
-        Emit(sign != std::end(kSigns) ? sign->token : std::u16string_view(&c, 1));
+        const std::u16string_view token = TokenOfSign(c);
+        Emit(token.empty() ? std::u16string_view(&c, 1) : token);
         ++at_;
     }
 }

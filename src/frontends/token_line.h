@@ -66,6 +66,8 @@ class TokenLine {
     /// Finds the part in view. widths: one per token, any unit; room: of the row in the same unit, that kept
     /// free for the cursor at the end excluded.
     void UpdateView(std::span<const int> widths, int room);
+    /// The row has another width: the view is to be filled again from its last token.
+    void RefillView() { scroll_ = ScrollState::keepLast; }
     /// True when UpdateView has to run before the next paint.
     [[nodiscard]] ScrollState Scroll() const { return scroll_; }
 

@@ -142,27 +142,45 @@ class Rounds {
         const double* start;
     };
 
-    QUORIX_KERNEL double Dot(const Held& left, const Held& right) const {
-        Vector parts[kPerBlock];
+    /// Products of `left` and each of the others; several share its loads.
+    template <std::size_t kCount>
+    QUORIX_KERNEL void Dots(const Held& left, const Held (&right)[kCount], double* dots) const {
+        Vector parts[kCount][kPerBlock];
         for (std::size_t v = 0; v < kPerBlock; ++v) {
-            parts[v] = left[v] * right[v];
+            for (std::size_t c = 0; c < kCount; ++c) {
+                parts[c][v] = left[v] * right[c][v];
+            }
         }
         for (std::size_t v = kPerBlock; v < Vectors(); ++v) {
-            parts[v % kPerBlock] += left[v] * right[v];
+            for (std::size_t c = 0; c < kCount; ++c) {
+                parts[c][v % kPerBlock] += left[v] * right[c][v];
+            }
         }
-        return AddParts(parts);
+        for (std::size_t c = 0; c < kCount; ++c) {
+            dots[c] = AddParts(parts[c]);
+        }
     }
     QUORIX_KERNEL double LengthOf(const double* column) const {
         const Held held(column);
-        return std::sqrt(Dot(held, held));
+        double squared = 0.0;
+        Dots(held, {held}, &squared);
+        return std::sqrt(squared);
     }
 
-    /// column -= its component along `unit`.
-    QUORIX_KERNEL void Project(double* column, const Held& unit) const {
-        const Held held(column);
-        const double dot = Dot(held, unit);
+    /// Subtracts from kCount columns one behind the other their components along `unit`.
+    template <std::size_t kCount>
+    QUORIX_KERNEL void Project(double* columns, const Held& unit) const {
+        double dots[kCount];
+        if constexpr (kCount == 1) {
+            Dots(unit, {Held(columns)}, dots);
+        } else {
+            Dots(unit, {Held(columns), Held(columns + Stride())}, dots);
+        }
         for (std::size_t v = 0; v < Vectors(); ++v) {
-            Store(column, v, held[v] - unit[v] * dot);
+            for (std::size_t c = 0; c < kCount; ++c) {
+                double* const column = columns + c * Stride();
+                Store(column, v, Load(column, v) - unit[v] * dots[c]);
+            }
         }
     }
 
@@ -217,8 +235,12 @@ class Rounds {
     /// column as it came in.
     QUORIX_KERNEL void ProjectTogether(double* column, std::size_t count) {
         const Held held(column);
-        for (std::size_t k = 0; k < count; ++k) {
-            dots_[k] = Dot(held, Held(Column(next_, k)));
+        std::size_t k = 0;
+        for (; k + 2 <= count; k += 2) {
+            Dots(held, {Held(Column(next_, k)), Held(Column(next_, k + 1))}, &dots_[k]);
+        }
+        for (; k < count; ++k) {
+            Dots(held, {Held(Column(next_, k))}, &dots_[k]);
         }
         for (std::size_t v = 0; v < Vectors(); v += kTile) {
             Tile sums[1];
@@ -238,10 +260,14 @@ class Rounds {
         for (std::size_t j = 1; j < n_; ++j) {
             const Held unit(Column(next_, j - 1));
             // The next column first: the others fill the time that its length takes.
-            Project(Column(b_, j), unit);
+            Project<1>(Column(b_, j), unit);
             FinishColumn(j);
-            for (std::size_t later = j + 1; later < n_; ++later) {
-                Project(Column(b_, later), unit);
+            std::size_t later = j + 1;
+            for (; later + 2 <= n_; later += 2) {
+                Project<2>(Column(b_, later), unit);
+            }
+            for (; later < n_; ++later) {
+                Project<1>(Column(b_, later), unit);
             }
         }
     }

@@ -110,6 +110,18 @@ void MorvaneListBoxWnd::PaintScrollKeys(QPainter& painter) {
     draw(model_->DownKey(), 1, model_->DownPressed());
 }
 
+int MorvaneListBoxWnd::AccessibleCellCount() const {
+    return static_cast<int>(model_->Items().size());
+}
+
+QString MorvaneListBoxWnd::AccessibleCellName(int index) const {
+    return QString::fromStdU16String(model_->Items()[static_cast<std::size_t>(index)]);
+}
+
+QRect MorvaneListBoxWnd::AccessibleCellRect(int index) const {
+    return OnDesktop(model_->RowRect(index).Scaled(Scale()));
+}
+
 void MorvaneListBoxWnd::OnPenDown(Point at) {
     model_->PenDown(Units(at));
     if (model_->UpPressed() || model_->DownPressed()) {

@@ -4,6 +4,7 @@
 #include <functional>
 #include <memory>
 
+#include "platform/qt/accessible_cells.h"
 #include "shell/list_box.h"
 #include "shell/module_wnd.h"
 
@@ -11,7 +12,7 @@ namespace quorix {
 
 /// A popup list over the frame. `chosen` is called once, with the row, or with -1 when it closes without a
 /// choice.
-class MorvaneListBoxWnd : public WindowBase {
+class MorvaneListBoxWnd : public WindowBase, public CellSource {
   public:
     MorvaneListBoxWnd(WindowBase& frame, ModuleSite& site, int popupId, std::function<void(int row)> chosen);
 
@@ -22,6 +23,11 @@ class MorvaneListBoxWnd : public WindowBase {
     bool Key(const QKeyEvent& event);
     [[nodiscard]] int PopupNumber() const { return ChildId(); }
     [[nodiscard]] const MorvaneListBox& Model() const { return *model_; }
+
+    [[nodiscard]] int AccessibleCellCount() const override;
+    [[nodiscard]] QString AccessibleCellName(int index) const override;
+    [[nodiscard]] QRect AccessibleCellRect(int index) const override;
+    void PressAccessibleCell(int index) override { Choose(index); }
 
   protected:
     void Paint(QPainter& painter, const Rect& dirty) override;

@@ -12,9 +12,7 @@
 namespace quorix {
 
 /// The letters that serve as names of parameters, in the order of their list.
-inline constexpr std::array<char16_t, 17> kParameterLetters = {0x03B1, 0x03B2, 0x03B3, 0x03B4, 0x03B7, 0x03BB,
-                                                               0x03BC, 0x03BD, 0x03BE, 0x03C1, 0x03BF, 0x03C3,
-                                                               0x03C4, 0x03C5, 0x03C6, 0x03C8, 0x03C9};
+inline constexpr std::u16string_view kParameterLetters = u"αβγεηθλμνρστυφψω";
 
 class MacroEditor {
   public:

@@ -46,6 +46,7 @@ CMainFrame::CMainFrame(const Surroundings& surroundings, const DeviceScreen& scr
     displayFile_.Restore(*display_);
     macroFiles_.Load(macros_);
     RefreshMacroNames();
+    macroEditor_ = std::make_unique<MacroEditor>(macros_, *display_);
     equals_ = std::make_unique<EqualsPath>(
         *display_, surroundings.waitCursor,
         EqualsPath::Hooks{
@@ -97,7 +98,7 @@ void CMainFrame::EnterCategory(int category) {
     keyboardTarget_ = ModuleWindow::none;
     EndPress();
     currentCategory_ = category;
-    if (!macroEditing_) {
+    if (!MacroEditing()) {
         display_->SetCategory(category);
     }
     host_.ClosePopup();
@@ -111,7 +112,7 @@ void CMainFrame::LeaveWindow(ModuleWindow window) {
     if (!ModuleLive(window)) {
         return;
     }
-    if (macroEditing_ && window == ModuleWindow::macros) {
+    if (MacroEditing() && window == ModuleWindow::macros) {
         host_.ShowModule(window, false);
         return;
     }
@@ -154,7 +155,7 @@ void CMainFrame::SwitchCategory(int category) {
         CloseChooser();
         return;
     }
-    if (macroEditing_ && !ServesMacroEditing(category)) {
+    if (MacroEditing() && !ServesMacroEditing(category)) {
         return;
     }
     const int previous = currentCategory_;
@@ -179,7 +180,7 @@ void CMainFrame::CoupleInputMode(int from, int to) {
 }
 
 void CMainFrame::StepCategory(int step) {
-    if (macroEditing_) {
+    if (MacroEditing()) {
         StepWhileEditing(step);
         return;
     }
@@ -265,10 +266,27 @@ void CMainFrame::ApplyPreferences(const Preferences& changed) {
     host_.InvalidateAll();
 }
 
-void CMainFrame::SetMacroEditing(bool editing) {
-    macroEditing_ = editing;
-    display_->SetMacroEditing(editing);
+void CMainFrame::ToggleMacroEditing() {
+    if (!MacroEditing()) {
+        macroEditor_->Begin(UserSettings().calculator.inputMode);
+    } else if (macroEditor_->End()) {
+        StoreMacros();
+    }
     host_.InvalidateAll();
+}
+
+void CMainFrame::StoreMacros() {
+    RefreshMacroNames();
+    // At once: a macro is work that a crash should not take.
+    macroFiles_.Save(macros_);
+}
+
+std::vector<std::u16string> CMainFrame::MacroNames() const {
+    std::vector<std::u16string> names;
+    for (const Macro& macro : macros_.All()) {
+        names.push_back(macro.name);
+    }
+    return names;
 }
 
 void CMainFrame::KeySound() {
@@ -286,6 +304,11 @@ void CMainFrame::SetScreen(const DeviceScreen& screen) {
 }
 
 void CMainFrame::Equals() {
+    if (MacroEditing()) {
+        // The line is a body with parameters; its result would mean nothing and cost the line.
+        macroEditor_->Validate();
+        return;
+    }
     equals_->Run(currentCategory_);
     host_.InvalidateDisplay();
     host_.ResultShown();
@@ -300,6 +323,9 @@ void CMainFrame::OnLedMessage(LedMessage message) {
 }
 
 bool CMainFrame::SaveState() {
+    if (MacroEditing()) {
+        macroEditor_->End();
+    }
     const bool macrosWritten = macroFiles_.Save(macros_);
     Preferences saved = UserSettings();
     saved.lastCategory = static_cast<std::uint8_t>(currentCategory_);

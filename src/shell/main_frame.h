@@ -24,6 +24,7 @@
 #include "platform/sound.h"
 #include "platform/timers.h"
 #include "shell/category_registry.h"
+#include "shell/macro_editor.h"
 #include "shell/preferences.h"
 
 namespace quorix {
@@ -145,8 +146,12 @@ class CMainFrame {
     /// Takes what the preferences dialog gave back; another skin is loaded at once.
     void ApplyPreferences(const Preferences& changed);
 
-    void SetMacroEditing(bool editing);
-    [[nodiscard]] bool MacroEditing() const { return macroEditing_; }
+    /// Begins or ends the editing of a macro; ending stores it.
+    void ToggleMacroEditing();
+    [[nodiscard]] bool MacroEditing() const { return macroEditor_->Editing(); }
+    [[nodiscard]] MacroEditor& TheMacroEditor() { return *macroEditor_; }
+    /// The names of the macros as a list at a place; the choice goes into the editor.
+    [[nodiscard]] std::vector<std::u16string> MacroNames() const;
     [[nodiscard]] bool ModuleLive(ModuleWindow window) const {
         return liveModules_[static_cast<std::size_t>(window)];
     }
@@ -157,6 +162,9 @@ class CMainFrame {
     void KeySound();
     /// The list of names that opens while a letter is typed.
     [[nodiscard]] TypeAhead& Names() { return *names_; }
+    /// The spoken name of a cell as it stands now; empty for a dead one. Presses a cell as a short tap does.
+    [[nodiscard]] std::u16string_view SpokenName(PanelCell cell) const;
+    void PressCell(PanelCell cell);
     /// Takes back the last edit of the line, or does it again.
     void Undo();
     void Redo();
@@ -195,6 +203,8 @@ class CMainFrame {
     void OpenFunctionList(PanelCell cell);
     void ChooseFunction(std::size_t item);
     void SendLowerKey(std::int32_t code);
+    void MacroPadKey(std::int32_t code);
+    void StoreMacros();
     void EndPress();
     void SetTimer(int id, int milliseconds);
     void KillTimers();
@@ -214,6 +224,7 @@ class CMainFrame {
     std::unique_ptr<EqualsPath> equals_;
     MacroFiles macroFiles_;
     MacroList macros_;
+    std::unique_ptr<MacroEditor> macroEditor_;
     HintTable hints_;
     std::unique_ptr<TypeAhead> names_;
     /// The release of a key whose press went to the list of names.
@@ -225,7 +236,6 @@ class CMainFrame {
     std::int32_t pressedKey_ = KEY_NONE;
     Point savedPoint_;
     bool holdFired_ = false;
-    bool macroEditing_ = false;
     bool chooserOpen_ = false;
     ModuleWindow keyboardTarget_ = ModuleWindow::none;
     std::array<bool, kModuleWindowCount> liveModules_{};

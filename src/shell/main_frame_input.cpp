@@ -1,6 +1,7 @@
 // Presses, keys and timers of the main frame.
 
 #include "frontends/base_conversion.h"
+#include "frontends/spoken_names.h"
 #include "shell/main_frame.h"
 
 namespace quorix {
@@ -35,8 +36,7 @@ constexpr FunctionItem kFunctionItems[] = {
 /// The windows that own lists, to which a choice is handed on.
 constexpr std::pair<PopupId, ModuleWindow> kPopupOwners[] = {
     {POPUP_UNITS, ModuleWindow::converter},          {POPUP_UNIT_CATEGORIES, ModuleWindow::converter},
-    {POPUP_CURRENCIES, ModuleWindow::converter},     {POPUP_MACRO_NAMES, ModuleWindow::macros},
-    {POPUP_MACRO_LETTERS, ModuleWindow::macros},     {POPUP_MATRICES, ModuleWindow::matrix},
+    {POPUP_CURRENCIES, ModuleWindow::converter},     {POPUP_MATRICES, ModuleWindow::matrix},
     {POPUP_STATISTICS, ModuleWindow::statistics},    {POPUP_PERSONS, ModuleWindow::biorythm},
     {POPUP_EQUATIONS, ModuleWindow::equationSolver},
 };
@@ -122,6 +122,9 @@ void CMainFrame::UpperDown(int cell) {
 }
 
 void CMainFrame::LowerDown(std::int32_t code) {
+    if (!TakesKeys()) {
+        return;
+    }
     if (code == KEY_EQUALS) {
         if (preferences_.tapHoldEnabled != 0 && currentCategory_ <= kLastPanelCategory) {
             pressedKey_ = KEY_ANSWER;
@@ -152,6 +155,23 @@ void CMainFrame::ButtonUp(Point point) {
     } else {
         UpperUp(pressed.cell);
     }
+}
+
+std::u16string_view CMainFrame::SpokenName(PanelCell cell) const {
+    const PageGround ground = EntryOf(currentCategory_).ground;
+    if (ground == PageGround::window || (cell.panel == Panel::upper && ground != PageGround::panels)) {
+        return {};
+    }
+    return SpokenNameOfCell(cell, currentCategory_, IsOrange(), display_->GetBase());
+}
+
+void CMainFrame::PressCell(PanelCell cell) {
+    const Point centre = CentreOf(CellRect(CurrentOrientation(), cell).Scaled(Scale()));
+    ButtonDown(centre);
+    // A short tap: what a held key would have sent is forgotten.
+    KillTimers();
+    pressedKey_ = KEY_NONE;
+    ButtonUp(centre);
 }
 
 void CMainFrame::MouseMove(Point point) {
@@ -199,7 +219,9 @@ void CMainFrame::LowerUp(std::int32_t code) {
         return;
     }
     KeySound();
-    if (IsOrange() && code == KEY_STORE) {
+    if (currentCategory_ == CATEGORY_MACROS) {
+        MacroPadKey(code);
+    } else if (IsOrange() && code == KEY_STORE) {
         display_->Key(KEY_NEXT_MEMORY);
     } else if (IsOrange() && code == KEY_RECALL) {
         display_->Key(KEY_CLEAR_MEMORY);
@@ -207,6 +229,26 @@ void CMainFrame::LowerUp(std::int32_t code) {
         display_->Key(KEY_ANSWER);
     } else {
         SendLowerKey(code);
+    }
+}
+
+/// The pad under the macro window: some keys serve the macro, and R and "=" stand in for what they cover.
+void CMainFrame::MacroPadKey(std::int32_t code) {
+    switch (code) {
+        case KEY_DIVIDE: SwitchCategory(CATEGORY_ARITHMETIC); break;
+        case KEY_CLEAR: macroEditor_->Clear(); break;
+        case KEY_MULTIPLY: {
+            std::vector<std::u16string> letters;
+            for (const char16_t letter : kParameterLetters) {
+                letters.emplace_back(1, letter);
+            }
+            host_.OpenPopup(POPUP_MACRO_LETTERS, {Panel::lower, code}, letters);
+            break;
+        }
+        case KEY_STORE: macroEditor_->Validate(); break;
+        case KEY_RECALL: display_->Key(KEY_MULTIPLY); break;
+        case KEY_EQUALS: display_->Key(KEY_DIVIDE); break;
+        default: SendLowerKey(code); break;
     }
 }
 
@@ -241,8 +283,17 @@ void CMainFrame::PopupChosen(PopupId id, int item) {
     const ModuleWindow owner = OwnerOf(id);
     if (owner != ModuleWindow::none) {
         host_.SendToModule(owner, MSG_POPUP_CHOSEN, item, id);
-    } else if (id == POPUP_FUNCTIONS && item >= 0) {
-        ChooseFunction(static_cast<std::size_t>(item));
+    } else if (item >= 0) {
+        const auto index = static_cast<std::size_t>(item);
+        if (id == POPUP_FUNCTIONS) {
+            ChooseFunction(index);
+        } else if (id == POPUP_MACRO_LETTERS && index < kParameterLetters.size()) {
+            macroEditor_->InsertLetter(kParameterLetters[index]);
+        } else if (id == POPUP_MACRO_NAMES) {
+            const std::vector<std::u16string> names = MacroNames();
+            macroEditor_->Choose(index < names.size() ? std::u16string_view(names[index]) : u"");
+        }
+        host_.SendToModule(ModuleWindow::macros, MSG_MACRO_KEYBOARD, 1, 0);
     }
     host_.ClosePopup();
 }
@@ -317,7 +368,7 @@ void CMainFrame::KeyUp(HardKey key) {
 }
 
 bool CMainFrame::TakesKeys() const {
-    return currentCategory_ <= kLastPanelCategory || currentCategory_ == CATEGORY_CONSTANTS || macroEditing_;
+    return currentCategory_ <= kLastPanelCategory || currentCategory_ == CATEGORY_CONSTANTS || MacroEditing();
 }
 
 bool CMainFrame::CharacterToTarget(char16_t character) {

@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QMessageBox>
 #include <QPainter>
+#include <QTimer>
 #include <iostream>
 #include <optional>
 
@@ -63,6 +64,9 @@ MainFrameWnd::MainFrameWnd(const std::filesystem::path& programFolder, SoundPlay
       helpViewer_(helpViewer) {
     setWindowTitle(QStringLiteral("Quorix"));
     setFocusPolicy(Qt::StrongFocus);
+    setAccessibleName(windowTitle());
+    StandAlone();
+    MakeCellsAccessible();
 }
 
 MainFrameWnd::~MainFrameWnd() = default;
@@ -96,11 +100,20 @@ std::filesystem::path MainFrameWnd::SkinPathTried() const {
     return folder_ / std::filesystem::path(kInterfacesFolder) / std::filesystem::path(skin_.SkinFile());
 }
 
+void MainFrameWnd::Quit() {
+    if (ground_) {
+        ToggleFullScreen();
+    }
+    // A window that has just become one of its own closes as such from the message loop only.
+    QTimer::singleShot(0, this, &QWidget::close);
+}
+
 void MainFrameWnd::Raise() {
-    setWindowState(windowState() & ~Qt::WindowMinimized);
-    show();
-    raise();
-    activateWindow();
+    QWidget* const top = window();
+    top->setWindowState(top->windowState() & ~Qt::WindowMinimized);
+    top->show();
+    top->raise();
+    top->activateWindow();
 }
 
 bool MainFrameWnd::ApplyView() {
@@ -112,7 +125,7 @@ bool MainFrameWnd::ApplyView() {
     led_->SetTexButton(folder_ / "Resources" / (Scale() == 2 ? "TexButton_VGA.png" : "TexButton.png"));
     loadedDensity_ = 0;
     LayOut();
-    SetZoom(view_.Zoom());
+    SetZoom(ZoomNow());
     frame_->SetScreen(screen);
     for (const auto& module : modules_) {
         if (module) {
@@ -120,6 +133,35 @@ bool MainFrameWnd::ApplyView() {
         }
     }
     return skinRead;
+}
+
+/// On the whole screen the largest of the zooms that fits.
+double MainFrameWnd::ZoomNow() const {
+    if (!ground_) {
+        return view_.Zoom();
+    }
+    const double room = ground_->RoomFor({Place().Width(), Place().Height()});
+    double zoom = 1;
+    for (const double step : {1.5, 2.0}) {
+        zoom = step <= room ? step : zoom;
+    }
+    return zoom;
+}
+
+void MainFrameWnd::ToggleFullScreen() {
+    if (ground_) {
+        const auto ground = std::exchange(ground_, nullptr);
+        ground->GiveBack(*this);
+        ApplyView();
+        if (view_.position) {
+            move(*view_.position);
+        }
+    } else {
+        view_.position = pos();
+        ground_ = std::make_unique<FullScreenGround>(ToQColor(bodyColour_), [this] { Quit(); });
+        ground_->Take(*this);
+        ApplyView();
+    }
 }
 
 void MainFrameWnd::LoadColours() {
@@ -177,6 +219,10 @@ void MainFrameWnd::InvalidateAll() {
 void MainFrameWnd::InvalidateDisplay() {
     if (led_) {
         led_->InvalidateAll();
+    }
+    // It shows the line too.
+    if (ModuleWnd* const macros = Module(ModuleWindow::macros)) {
+        macros->InvalidateAll();
     }
 }
 
@@ -328,7 +374,7 @@ void MainFrameWnd::RunTool(Tool tool) {
         case Tool::preferences: OpenPreferences(); break;
         case Tool::help: OpenHelp(); break;
         case Tool::about: OpenAbout(); break;
-        case Tool::exit: close(); break;
+        case Tool::exit: Quit(); break;
         case Tool::count: break;
     }
 }
@@ -348,6 +394,33 @@ void MainFrameWnd::OpenPopupAt(PopupId id, const Rect& at, const std::vector<std
     });
     popup_->Open(at, items, -1);
     qApp->installEventFilter(this);
+}
+
+namespace {
+
+/// The upper panel's cells, then the lower one's.
+constexpr PanelCell CellOfIndex(int index) {
+    return index < kUpperCellCount ? PanelCell{Panel::upper, index}
+                                   : PanelCell{Panel::lower, index - kUpperCellCount};
+}
+
+}  // namespace
+
+QString MainFrameWnd::AccessibleCellName(int index) const {
+    const std::u16string_view name = frame_->SpokenName(CellOfIndex(index));
+    return QString::fromUtf16(name.data(), static_cast<qsizetype>(name.size()));
+}
+
+QRect MainFrameWnd::AccessibleCellRect(int index) const {
+    return OnDesktop(CellRect(frame_->CurrentOrientation(), CellOfIndex(index)).Scaled(Scale()));
+}
+
+bool MainFrameWnd::AccessibleCellDown(int index) const {
+    return frame_->Looks().LooksDown(CellOfIndex(index));
+}
+
+void MainFrameWnd::PressAccessibleCell(int index) {
+    frame_->PressCell(CellOfIndex(index));
 }
 
 void MainFrameWnd::PlaySound(const std::filesystem::path& wav) {
@@ -386,11 +459,36 @@ void MainFrameWnd::PaintPanels(QPainter& painter, const Rect& dirty) {
         }
         for (int index = 0; index < count; ++index) {
             const PanelCell cell{panel, index};
-            if (Overlap(CellRect(orientation, cell).Scaled(Scale()), dirty)) {
-                panels_.PaintCell(painter, orientation, Scale(), cell, frame_->Looks().LooksDown(cell));
+            if (!Overlap(CellRect(orientation, cell).Scaled(Scale()), dirty)) {
+                continue;
+            }
+            const bool down = frame_->Looks().LooksDown(cell);
+            if (const MacroPadLabel* const label = MacroLabelOf(cell)) {
+                panels_.PaintLowerCellAs(painter, orientation, Scale(), index, down, label->labelOf,
+                                         QString::fromUtf16(label->text));
+            } else {
+                panels_.PaintCell(painter, orientation, Scale(), cell, down);
             }
         }
     }
+}
+
+/// What stands on a key of the lower panel while a macro is being edited; null for its own label.
+const MainFrameWnd::MacroPadLabel* MainFrameWnd::MacroLabelOf(PanelCell cell) const {
+    static constexpr MacroPadLabel kLabels[] = {{KEY_DIVIDE, 0, u"keys"},
+                                                {KEY_MULTIPLY, 0, u"αβγ"},
+                                                {KEY_STORE, 0, u"test"},
+                                                {KEY_RECALL, KEY_MULTIPLY, u""},
+                                                {KEY_EQUALS, KEY_DIVIDE, u""}};
+    if (cell.panel == Panel::lower && frame_->CurrentCategory() == CATEGORY_MACROS &&
+        frame_->MacroEditing()) {
+        for (const MacroPadLabel& label : kLabels) {
+            if (label.cell == cell.cell) {
+                return &label;
+            }
+        }
+    }
+    return nullptr;
 }
 
 /// The wordmark stands where the converters show no display.
@@ -460,6 +558,9 @@ bool MainFrameWnd::DesktopKey(const QKeyEvent& event) {
         view_.zoomPercent = ZoomAfter(view_.zoomPercent, 1);
     } else if (control && event.key() == Qt::Key_Minus) {
         view_.zoomPercent = ZoomAfter(view_.zoomPercent, -1);
+    } else if (event.key() == Qt::Key_F11) {
+        ToggleFullScreen();
+        return true;
     } else if (event.key() == Qt::Key_F1) {
         OpenHelp();
         return true;
@@ -468,7 +569,7 @@ bool MainFrameWnd::DesktopKey(const QKeyEvent& event) {
             frame_->Settings().categoryOrder[static_cast<std::size_t>(event.key() - Qt::Key_1)]);
         return true;
     } else if (control && event.key() == Qt::Key_Q) {
-        close();
+        Quit();
         return true;
     } else {
         return control && (EditKey(event) || event.key() != Qt::Key_Control);
@@ -507,13 +608,18 @@ void MainFrameWnd::keyReleaseEvent(QKeyEvent* event) {
 void MainFrameWnd::closeEvent(QCloseEvent* event) {
     if (!closed_) {
         closed_ = true;
-        view_.position = pos();
+        if (!ground_) {
+            view_.position = pos();
+        }
         SaveViewSettings(folder_, view_);
         if (!frame_->SaveState()) {
             std::cerr << "quorix: the state could not be saved in " << folder_ << '\n';
         }
     }
     event->accept();
+    if (whenClosed_) {
+        whenClosed_();
+    }
 }
 
 }  // namespace quorix

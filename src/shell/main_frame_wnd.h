@@ -13,6 +13,8 @@
 #include "frontends/type_ahead_wnd.h"
 #include "platform/clock.h"
 #include "platform/help_viewer.h"
+#include "platform/qt/accessible_cells.h"
+#include "platform/qt/full_screen.h"
 #include "platform/qt/html_window.h"
 #include "platform/qt/qt_wait_cursor.h"
 #include "platform/qt/view_settings.h"
@@ -26,7 +28,7 @@
 
 namespace quorix {
 
-class MainFrameWnd : public WindowBase, public FrameHost, public ModuleSite {
+class MainFrameWnd : public WindowBase, public FrameHost, public ModuleSite, public CellSource {
   public:
     /// sound and helpViewer may be null; they outlive the window.
     explicit MainFrameWnd(const std::filesystem::path& programFolder, SoundPlayer* sound = nullptr,
@@ -37,6 +39,10 @@ class MainFrameWnd : public WindowBase, public FrameHost, public ModuleSite {
     /// start-up then ends; SkinPathTried names the file.
     bool Create();
     [[nodiscard]] std::filesystem::path SkinPathTried() const;
+    /// Runs when the window has been closed and the state is saved: the program ends, whatever else is open.
+    void SetClosed(std::function<void()> closed) { whenClosed_ = std::move(closed); }
+    /// Ends the program from the message loop, saving the state.
+    void Quit();
     /// Shows the window before all others.
     void Raise();
     [[nodiscard]] CMainFrame& Frame() override { return *frame_; }
@@ -75,6 +81,12 @@ class MainFrameWnd : public WindowBase, public FrameHost, public ModuleSite {
         PreparePictures();
         return panels_;
     }
+    [[nodiscard]] int AccessibleCellCount() const override { return kUpperCellCount + kLowerCellCount; }
+    [[nodiscard]] QString AccessibleCellName(int index) const override;
+    [[nodiscard]] QRect AccessibleCellRect(int index) const override;
+    [[nodiscard]] bool AccessibleCellDown(int index) const override;
+    void PressAccessibleCell(int index) override;
+
     void PlaySound(const std::filesystem::path& wav) override;
     void OpenPopupAt(PopupId id, const Rect& at, const std::vector<std::u16string>& items) override;
 
@@ -97,6 +109,12 @@ class MainFrameWnd : public WindowBase, public FrameHost, public ModuleSite {
     [[nodiscard]] Rect ClientPixels() const;
     bool ChooserKeyPressed(const QKeyEvent& event);
     void PaintPanels(QPainter& painter, const Rect& dirty);
+    struct MacroPadLabel {
+        int cell;
+        int labelOf;
+        const char16_t* text;
+    };
+    [[nodiscard]] const MacroPadLabel* MacroLabelOf(PanelCell cell) const;
     void PaintLogo(QPainter& painter);
     void OpenPreferences();
     void OpenHelp();
@@ -108,6 +126,8 @@ class MainFrameWnd : public WindowBase, public FrameHost, public ModuleSite {
     void LoadColours();
     void PreparePictures();
     void LayOut();
+    void ToggleFullScreen();
+    [[nodiscard]] double ZoomNow() const;
 
     std::filesystem::path folder_;
     SystemClock clock_;
@@ -130,7 +150,10 @@ class MainFrameWnd : public WindowBase, public FrameHost, public ModuleSite {
     std::unique_ptr<HintWnd> hint_;
     std::unique_ptr<TypeAheadWnd> names_;
     QPointer<MorvaneListBoxWnd> popup_;
+    /// There while the window fills the screen.
+    std::unique_ptr<FullScreenGround> ground_;
     bool closed_ = false;
+    std::function<void()> whenClosed_;
 };
 
 }  // namespace quorix

@@ -1,23 +1,30 @@
 #include "shell/module_factories.h"
 
-#include <array>
-
 #include "shell/empty_page_wnd.h"
+#include "shell/macro_wnd.h"
 
 namespace quorix {
 
 namespace {
 
-/// By ModuleWindow; null where the window does not exist yet.
-constexpr std::array<ModuleFactory, kModuleWindowCount> kFactories = {};
+struct FactoryRow {
+    ModuleWindow window;
+    ModuleFactory make;
+};
+
+/// The windows that exist so far.
+constexpr FactoryRow kFactories[] = {
+    {ModuleWindow::macros, MacroWnd::Make},
+};
 
 }  // namespace
 
 std::unique_ptr<ModuleWnd> MakeModuleWnd(WindowBase& frame, ModuleSite& site, int category) {
     const CategoryEntry& entry = EntryOf(category);
-    if (const ModuleFactory factory = kFactories[static_cast<std::size_t>(entry.window)];
-        factory != nullptr) {
-        return factory(frame, site, category);
+    for (const FactoryRow& row : kFactories) {
+        if (row.window == entry.window) {
+            return row.make(frame, site, category);
+        }
     }
     if (entry.ground == PageGround::panels) {
         return nullptr;

@@ -49,8 +49,7 @@ class ModuleWnd : public WindowBase {
     [[nodiscard]] int Category() const { return category_; }
 
   protected:
-    [[nodiscard]] ModuleSite& Site() { return site_; }
-    [[nodiscard]] const ModuleSite& Site() const { return site_; }
+    [[nodiscard]] ModuleSite& Site() const { return site_; }
     /// A picture of the skin in the density of the present paint; empty when the skin has none.
     [[nodiscard]] QImage SkinPicture(std::string_view key) const;
     /// The chooser key's place in this window, in device pixels.

@@ -42,11 +42,9 @@ MorvaneCalNumberKeyboardWnd::MorvaneCalNumberKeyboardWnd(WindowBase& parent, Win
     setFocusPolicy(Qt::NoFocus);
 }
 
-void MorvaneCalNumberKeyboardWnd::LayOut(Point at) {
+void MorvaneCalNumberKeyboardWnd::LayOut(const Rect& place) {
     pad_.SetLandscape(site_.Frame().CurrentOrientation() == Orientation::landscape);
-    SetPlace(
-        Rect{at.x, at.y, at.x + pad_.Columns() * pad_.CellWidth(), at.y + pad_.Rows() * pad_.CellHeight()}
-            .Scaled(Scale()));
+    SetPlace(place.Scaled(Scale()));
     InvalidateAll();
 }
 

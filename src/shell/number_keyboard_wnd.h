@@ -15,8 +15,9 @@ class MorvaneCalNumberKeyboardWnd : public WindowBase {
     MorvaneCalNumberKeyboardWnd(WindowBase& parent, WindowBase& receiver, ModuleSite& site,
                                 PadKind kind = PadKind::numbers);
 
-    /// Stands with its upper left corner at a point of the parent, in logical units.
-    void LayOut(Point at);
+    /// Fills a place of the parent (logical units), which has room for the keys; they stand at its upper
+    /// left.
+    void LayOut(const Rect& place);
     void SetPadMode(int padMode);
     void SetCookie(std::intptr_t padCookie) { padCookie_ = padCookie; }
     [[nodiscard]] const NumberPad& Pad() const { return pad_; }

@@ -24,7 +24,8 @@ constexpr int kIconTop = 2;
 constexpr int kLabelTop = 24;
 constexpr int kGlyphSize = 16;
 constexpr int kGlyphGap = 2;
-constexpr int kSheetCorner = 8;
+/// Units that a sheet of another size keeps at its corners: the hair line above the tools lies within.
+constexpr int kSheetCorner = 30;
 constexpr int kFocusRadius = 4;
 constexpr int kTileLooks = 3;
 enum TileLook : int { TILE_PLAIN = 0, TILE_PRESSED = 1, TILE_CHOSEN = 2 };
@@ -197,6 +198,37 @@ void ToolsPanelWnd::PaintFocus(QPainter& painter) {
     painter.drawRoundedRect(QRectF(ToQRect(Pixels(model_->Focused()).Inset(Scale()))), kFocusRadius * Scale(),
                             kFocusRadius * Scale());
     painter.setRenderHint(QPainter::Antialiasing, false);
+}
+
+int ToolsPanelWnd::AccessibleCellCount() const {
+    return model_ ? static_cast<int>(model_->Parts().size()) : 0;
+}
+
+QString ToolsPanelWnd::AccessibleCellName(int index) const {
+    const SheetPart part = model_->Parts()[static_cast<std::size_t>(index)];
+    switch (part.kind) {
+        case SheetPart::Kind::tile: return ToQString(kCategoryNames[static_cast<std::size_t>(part.index)]);
+        case SheetPart::Kind::tool: return ToQString(kToolNames[part.index]);
+        case SheetPart::Kind::pageBack: return QStringLiteral("previous page");
+        default: return QStringLiteral("next page");
+    }
+}
+
+QRect ToolsPanelWnd::AccessibleCellRect(int index) const {
+    return OnDesktop(Pixels(model_->Parts()[static_cast<std::size_t>(index)]));
+}
+
+bool ToolsPanelWnd::AccessibleCellDown(int index) const {
+    const SheetPart part = model_->Parts()[static_cast<std::size_t>(index)];
+    return part == model_->Pressed() ||
+           (part.kind == SheetPart::Kind::tile && part.index == model_->Current());
+}
+
+void ToolsPanelWnd::PressAccessibleCell(int index) {
+    const Rect rect = model_->RectOf(model_->Parts()[static_cast<std::size_t>(index)]);
+    const Point centre{(rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2};
+    model_->PenDown(centre);
+    Take(model_->PenUp(centre));
 }
 
 void ToolsPanelWnd::OnPenDown(Point at) {

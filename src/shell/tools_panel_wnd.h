@@ -3,6 +3,7 @@
 #include <QPixmap>
 #include <memory>
 
+#include "platform/qt/accessible_cells.h"
 #include "platform/qt/window_base.h"
 #include "shell/module_wnd.h"
 #include "shell/tools_panel.h"
@@ -10,7 +11,7 @@
 namespace quorix {
 
 /// The category chooser as a sheet over the frame.
-class ToolsPanelWnd : public WindowBase {
+class ToolsPanelWnd : public WindowBase, public CellSource {
   public:
     ToolsPanelWnd(WindowBase& frame, ModuleSite& site);
 
@@ -19,6 +20,12 @@ class ToolsPanelWnd : public WindowBase {
     /// A key while the sheet is open.
     void Key(SheetKey key);
     [[nodiscard]] const ToolsPanel& Model() const { return *model_; }
+
+    [[nodiscard]] int AccessibleCellCount() const override;
+    [[nodiscard]] QString AccessibleCellName(int index) const override;
+    [[nodiscard]] QRect AccessibleCellRect(int index) const override;
+    [[nodiscard]] bool AccessibleCellDown(int index) const override;
+    void PressAccessibleCell(int index) override;
 
   protected:
     void Paint(QPainter& painter, const Rect& dirty) override;

@@ -61,7 +61,7 @@ TEST(Categories, AMacroUnderEditKeepsToItsPages) {
     const TemporaryFolder folder;
     FrameRig rig(folder.Path());
     rig.frame.SwitchCategory(CATEGORY_MACROS);
-    rig.frame.SetMacroEditing(true);
+    rig.frame.ToggleMacroEditing();
     rig.host.TakeLog();
     rig.frame.SwitchCategory(CATEGORY_MATRIX);
     EXPECT_EQ(rig.frame.CurrentCategory(), CATEGORY_MACROS);

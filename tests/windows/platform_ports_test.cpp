@@ -1,8 +1,5 @@
 // The real sides of the ports for sound, help and the single instance.
 #include <gtest/gtest.h>
-#include <sys/socket.h>
-#include <sys/un.h>
-#include <unistd.h>
 
 #include <QElapsedTimer>
 #include <QLineEdit>
@@ -11,15 +8,15 @@
 #include <algorithm>
 
 #include "platform/qt/html_window.h"
+#include "platform/qt/lazy_sound.h"
 #include "platform/qt/qt_help_viewer.h"
-#include "platform/qt/qt_sound.h"
 #include "platform/qt/single_instance.h"
 #include "support/temporary_folder.h"
 
 namespace quorix {
 namespace {
 
-TEST(QtSoundPlayer, NeitherWaitsNorComplainsWhateverTheMachineAndTheFileAre) {
+TEST(LazySound, NeitherWaitsNorComplainsWhateverTheMachineAndTheFileAre) {
     const testing::TemporaryFolder folder;
     folder.Write("damaged.wav", "RIFF, and then nothing");
     const std::filesystem::path whole =
@@ -27,7 +24,8 @@ TEST(QtSoundPlayer, NeitherWaitsNorComplainsWhateverTheMachineAndTheFileAre) {
     ::testing::internal::CaptureStderr();
     qint64 longestMs = 0;
     {
-        QtSoundPlayer player;
+        LazySound player;
+        // The first one loads the module.
         player.Play(whole);
         for (const auto& file :
              {whole, folder / "damaged.wav", folder / "absent.wav", whole, folder.Path()}) {
@@ -59,22 +57,6 @@ TEST(SingleInstance, ALaterStartRaisesTheFirstAndAnotherFolderIsAnotherProgram) 
     }
     EXPECT_TRUE(SingleInstance(folder.Path(), [] {}).TryBecomeFirst());
     EXPECT_EQ(raised, 2);
-}
-
-TEST(SingleInstance, TakesOverTheSocketOfAKilledProgram) {
-    const testing::TemporaryFolder folder;
-    int raised = 0;
-    SingleInstance instance(folder.Path(), [&] { ++raised; });
-    // What a killed program leaves: a bound socket that nobody listens to.
-    const int socket = ::socket(AF_UNIX, SOCK_STREAM, 0);
-    sockaddr_un address{.sun_family = AF_UNIX, .sun_path = {}};
-    instance.Name().toStdString().copy(address.sun_path, sizeof address.sun_path - 1);
-    ASSERT_EQ(::bind(socket, reinterpret_cast<const sockaddr*>(&address), sizeof address), 0);
-    ::close(socket);
-
-    EXPECT_TRUE(instance.TryBecomeFirst());
-    EXPECT_FALSE(SingleInstance(folder.Path(), [] {}).TryBecomeFirst());
-    EXPECT_TRUE(QTest::qWaitFor([&] { return raised == 1; }, 1000));
 }
 
 TEST(QtHelpViewer, TellsAtOnceOrLaterThatNothingOpensTheFile) {

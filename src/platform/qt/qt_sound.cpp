@@ -108,3 +108,8 @@ void QtSoundPlayer::Play(const std::filesystem::path& wav) {
 }
 
 }  // namespace quorix
+
+/// The door of the module; see lazy_sound.h.
+extern "C" __attribute__((visibility("default"))) quorix::SoundPlayer* NewSoundPlayer() {
+    return new quorix::QtSoundPlayer;
+}

@@ -1,87 +1,105 @@
 #include "platform/qt/single_instance.h"
 
+#include <sys/socket.h>
+#include <sys/un.h>
 #include <unistd.h>
 
-#include <QCryptographicHash>
-#include <QDir>
-#include <QFileInfo>
-#include <QLocalSocket>
-#include <QLockFile>
+#include <algorithm>
+#include <cstddef>
 #include <system_error>
 
 namespace quorix {
 
 namespace {
 
-constexpr int kConnectMs = 500;
-constexpr int kLockMs = 1000;
-constexpr char kRaise[] = "raise";
-constexpr int kNameDigits = 16;  // Of the hash; a socket's path has room for 107 bytes in all.
+constexpr int kBacklog = 8;
+/// Between its bind and its listen another start cannot be asked yet.
+constexpr int kAskTries = 20;
+constexpr useconds_t kAskPauseUs = 10'000;
 
-/// The folder of the user's own sockets where the session has one, else the common temporary folder.
-QString SocketFolder() {
-    const QString runtime = qEnvironmentVariable("XDG_RUNTIME_DIR");
-    const QFileInfo folder(runtime);
-    return folder.isAbsolute() && folder.isDir() && folder.isWritable() ? runtime : QDir::tempPath();
-}
-
-QString SocketName(const std::filesystem::path& programFolder) {
+std::string NameFor(const std::filesystem::path& programFolder) {
     std::error_code error;
     const std::filesystem::path folder = std::filesystem::weakly_canonical(programFolder, error);
-    const std::string identity =
-        (error ? programFolder : folder).string() + '\n' + std::to_string(::getuid());
-    const QByteArray hash =
-        QCryptographicHash::hash(QByteArray::fromStdString(identity), QCryptographicHash::Sha256);
-    return SocketFolder() + "/quorix-" + QString::fromLatin1(hash.toHex().left(kNameDigits));
+    const std::string& place = (error ? programFolder : folder).string();
+    return "quorix-" + std::to_string(::getuid()) + '-' + std::to_string(std::hash<std::string>{}(place));
+}
+
+int NewSocket() {
+    return ::socket(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
+}
+
+/// A zero before the name makes it abstract.
+std::pair<sockaddr_un, socklen_t> AddressOf(const std::string& name) {
+    sockaddr_un address{.sun_family = AF_UNIX, .sun_path = {}};
+    const std::size_t length = std::min(name.size(), sizeof address.sun_path - 1);
+    name.copy(address.sun_path + 1, length);
+    return {address, static_cast<socklen_t>(offsetof(sockaddr_un, sun_path) + 1 + length)};
+}
+
+bool IsOurs(int socket) {
+    ucred peer{};
+    socklen_t size = sizeof peer;
+    return ::getsockopt(socket, SOL_SOCKET, SO_PEERCRED, &peer, &size) == 0 && peer.uid == ::getuid();
 }
 
 }  // namespace
 
 SingleInstance::SingleInstance(const std::filesystem::path& programFolder, std::function<void()> raise)
-    : name_(SocketName(programFolder)), raise_(std::move(raise)) {
-    server_.setSocketOptions(QLocalServer::UserAccessOption);
-    QObject::connect(&server_, &QLocalServer::newConnection, &server_, [this] {
-        while (QLocalSocket* peer = server_.nextPendingConnection()) {
-            const auto read = [this, peer] {
-                if (peer->readAll() == kRaise) {
-                    raise_();
-                }
-            };
-            QObject::connect(peer, &QLocalSocket::readyRead, &server_, read);
-            QObject::connect(peer, &QLocalSocket::disconnected, peer, &QObject::deleteLater);
-            // The text may have come with the connection, and the peer may be gone already.
-            if (peer->bytesAvailable() > 0) {
-                read();
-            }
-        }
-    });
-}
+    : name_(NameFor(programFolder)), raise_(std::move(raise)) {}
 
-SingleInstance::~SingleInstance() = default;
+SingleInstance::~SingleInstance() {
+    notifier_.reset();
+    if (listener_ >= 0) {
+        ::close(listener_);
+    }
+}
 
 bool SingleInstance::TryBecomeFirst() {
-    // Two starts at once must not both find the socket stale and each remove that of the other.
-    QLockFile lock(name_ + ".lock");
-    lock.tryLock(kLockMs);
-    if (AskOtherToRaise()) {
-        return false;
+    listener_ = NewSocket();
+    if (listener_ < 0) {
+        return true;
     }
-    QLocalServer::removeServer(name_);
-    server_.listen(name_);
+    const auto [address, size] = AddressOf(name_);
+    if (::bind(listener_, reinterpret_cast<const sockaddr*>(&address), size) != 0) {
+        ::close(listener_);
+        listener_ = -1;
+        return !AskOtherToRaise();
+    }
+    ::listen(listener_, kBacklog);
+    notifier_ = std::make_unique<QSocketNotifier>(listener_, QSocketNotifier::Read);
+    QObject::connect(notifier_.get(), &QSocketNotifier::activated, [this] { Accept(); });
     return true;
 }
 
+void SingleInstance::Accept() {
+    for (int peer = ::accept(listener_, nullptr, nullptr); peer >= 0;
+         peer = ::accept(listener_, nullptr, nullptr)) {
+        const bool ours = IsOurs(peer);
+        ::close(peer);
+        if (ours) {
+            raise_();
+        }
+    }
+}
+
+/// To connect is to ask; the first instance may be calculating and answer later.
 bool SingleInstance::AskOtherToRaise() const {
-    QLocalSocket socket;
-    socket.connectToServer(name_);
-    if (!socket.waitForConnected(kConnectMs)) {
+    const int socket = NewSocket();
+    if (socket < 0) {
         return false;
     }
-    // A first instance that calculates reads it later; that it runs is enough.
-    socket.write(kRaise);
-    socket.waitForBytesWritten(kConnectMs);
-    socket.disconnectFromServer();
-    return true;
+    const auto [address, size] = AddressOf(name_);
+    bool asked = false;
+    for (int i = 0; i < kAskTries && !asked; ++i) {
+        asked = ::connect(socket, reinterpret_cast<const sockaddr*>(&address), size) == 0;
+        if (!asked) {
+            ::usleep(kAskPauseUs);
+        }
+    }
+    // Another user may hold the name; that is no instance of ours.
+    asked = asked && IsOurs(socket);
+    ::close(socket);
+    return asked;
 }
 
 }  // namespace quorix

@@ -1,9 +1,10 @@
 #pragma once
 
-#include <QLocalServer>
-#include <QString>
+#include <QSocketNotifier>
 #include <filesystem>
 #include <functional>
+#include <memory>
+#include <string>
 
 namespace quorix {
 
@@ -17,21 +18,19 @@ class SingleInstance {
     SingleInstance& operator=(const SingleInstance&) = delete;
 
     /// True when no other instance runs; this one then answers later starts as long as it lives. False when
-    /// another one runs: it has been asked to show itself, and the caller ends. The socket of an instance
-    /// that was killed is taken over. Where no socket can be made every instance is a first one. Needs a
-    /// running QApplication; may take a second when another start does the same just now; handles no
-    /// messages.
+    /// another one of the same user runs: it has been asked to show itself, and the caller ends. Where no
+    /// socket can be made every instance is a first one. Needs a running QApplication; handles no messages.
     bool TryBecomeFirst();
-
-    /// Name of the socket.
-    [[nodiscard]] const QString& Name() const { return name_; }
 
   private:
     [[nodiscard]] bool AskOtherToRaise() const;
+    void Accept();
 
-    QString name_;
+    /// Of an abstract socket: no file, and the name is free again when the program ends, however it ends.
+    std::string name_;
     std::function<void()> raise_;
-    QLocalServer server_;
+    int listener_ = -1;
+    std::unique_ptr<QSocketNotifier> notifier_;
 };
 
 }  // namespace quorix

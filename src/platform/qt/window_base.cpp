@@ -112,7 +112,7 @@ void WindowBase::ApplyPlace() {
     if (IsEmpty(place_)) {
         return;
     }
-    if (isWindow()) {
+    if (isWindow() || standsAlone_) {
         setFixedSize(Zoomed(place_.Width(), zoom_), Zoomed(place_.Height(), zoom_));
         return;
     }
@@ -120,6 +120,10 @@ void WindowBase::ApplyPlace() {
     const int left = Zoomed(place_.left, zoom_);
     const int top = Zoomed(place_.top, zoom_);
     setGeometry(left, top, Zoomed(place_.right, zoom_) - left, Zoomed(place_.bottom, zoom_) - top);
+}
+
+QRect WindowBase::OnDesktop(const Rect& devicePixels) const {
+    return Outward(devicePixels, zoom_);
 }
 
 void WindowBase::Invalidate(const Rect& devicePixels) {

@@ -3,6 +3,7 @@
 // The base of every window of ours.
 
 #include <QImage>
+#include <QRect>
 #include <QWidget>
 #include <cstdint>
 #include <functional>
@@ -48,6 +49,9 @@ class WindowBase : public QWidget, public Timers {
     void SetPlace(const Rect& devicePixels);
     [[nodiscard]] const Rect& Place() const { return place_; }
 
+    /// A rectangle of device pixels in the window's own coordinates, desktop points.
+    [[nodiscard]] QRect OnDesktop(const Rect& devicePixels) const;
+
     /// Marks a part to be painted anew, in device pixels.
     void Invalidate(const Rect& devicePixels);
     void InvalidateAll();
@@ -57,6 +61,9 @@ class WindowBase : public QWidget, public Timers {
     void Kill(int id) override;
 
   protected:
+    /// A main window keeps its size within a foreign one, too, which decides where it stands.
+    void StandAlone() { standsAlone_ = true; }
+
     /// Enters a message into the window's table; a later handler replaces an earlier one.
     void Handle(int message, MessageHandler handler);
 
@@ -83,6 +90,7 @@ class WindowBase : public QWidget, public Timers {
     [[nodiscard]] Point PenPoint(const QMouseEvent& event) const;
 
     int childId_;
+    bool standsAlone_ = false;
     int scale_ = 2;
     double zoom_ = 1.0;
     Rect place_;

@@ -1,4 +1,4 @@
-#include "shell/morvane_button.h"
+#include "shell/morvane_button_wnd.h"
 
 #include <QPainter>
 #include <QPointer>
