@@ -149,6 +149,22 @@ QImage Base() {
     return stage.Grab();
 }
 
+QImage MacroPage() {
+    Stage stage;
+    stage.Frame().SwitchCategory(CATEGORY_MACROS);
+    MacroEditor& editor = stage.Frame().TheMacroEditor();
+    editor.SetName(u"hyp");
+    editor.SetRemark(u"hypotenuse");
+    stage.Frame().ToggleMacroEditing();
+    stage.Keys({KEY_SQUARE_ROOT});
+    editor.InsertLetter(kParameterLetters[0]);
+    stage.Keys({KEY_SQUARE, KEY_PLUS});
+    editor.InsertLetter(kParameterLetters[1]);
+    stage.Keys({KEY_SQUARE, KEY_CLOSE});
+    stage.Window().Module(ModuleWindow::macros)->SendMessage(MSG_MACRO_KEYBOARD, 1);
+    return stage.Grab();
+}
+
 /// A page of the preferences, by its number.
 QImage PreferencesPage(int page) {
     constexpr double kPixelsPerUnit = 1.3;
@@ -192,6 +208,7 @@ const ManualPicture kPictures[] = {
     {"chooser.png", [] { return AtWidth(Chooser(), kSmall); }},
     {"rpn.png", [] { return AtWidth(ReversePolish(), kSmall); }},
     {"base.png", [] { return AtWidth(Base(), kSmall); }},
+    {"macros.png", [] { return AtWidth(MacroPage(), kSmall); }},
     {"preferences-general.png", [] { return PreferencesPage(0); }},
     {"preferences-categories.png", [] { return PreferencesPage(1); }},
     {"preferences-skins.png", [] { return PreferencesPage(3); }},

@@ -22,6 +22,10 @@ constexpr std::pair<int, std::u16string_view> kOrangeOfPad[] = {{KEY_STORE, Labe
                                                                 {KEY_RECALL, LabelOfKey(KEY_CLEAR_MEMORY)},
                                                                 {KEY_EQUALS, LabelOfKey(KEY_ANSWER)}};
 
+/// Words on the pad under the page of the user's macros, as its window paints them.
+constexpr std::pair<int, std::string_view> kMacroPad[] = {
+    {KEY_DIVIDE, "keys"}, {KEY_MULTIPLY, "αβγ"}, {KEY_STORE, "test"}, {KEY_RECALL, "×"}, {KEY_EQUALS, "÷"}};
+
 constexpr std::pair<std::string_view, DisplayPart> kMarks[] = {
     {"line", DisplayPart::lineNumber},   {"memory", DisplayPart::memoryMark},
     {"base", DisplayPart::baseMark},     {"angle", DisplayPart::angleMark},
@@ -155,6 +159,10 @@ class ScriptPlayer {
                            : verb == "press"  ? Press(what)
                            : verb == "type"   ? Type(what)
                            : verb == "paste"  ? Paste(what)
+                           : verb == "name"   ? Name(what)
+                           : verb == "edit"   ? ToggleMacro(false)
+                           : verb == "save"   ? ToggleMacro(true)
+                           : verb == "go"     ? Go(what)
                                               : false;
         if (!known) {
             fault_ = "cannot [" + std::string(command) + "]";
@@ -235,6 +243,27 @@ class ScriptPlayer {
         return PasteShortcut(rig_.frame.Display(), clipboard);
     }
 
+    bool Name(std::string_view name) {
+        rig_.frame.TheMacroEditor().SetName(FromUtf8(name));
+        return Category() == CATEGORY_MACROS;
+    }
+
+    /// The key of the macro page says "edit" or, while a macro is being edited, "save".
+    bool ToggleMacro(bool saying) {
+        const bool fits = Category() == CATEGORY_MACROS && rig_.frame.MacroEditing() == saying;
+        rig_.frame.ToggleMacroEditing();
+        return fits && rig_.frame.MacroEditing() != saying;
+    }
+
+    bool Go(std::string_view categoryName) {
+        for (int category = 0; category < kCategoryCount; ++category) {
+            if (ToUtf8(kCategoryNames[static_cast<std::size_t>(category)]) == categoryName) {
+                rig_.frame.SwitchCategory(category);
+            }
+        }
+        return ToUtf8(kCategoryNames[static_cast<std::size_t>(Category())]) == categoryName;
+    }
+
     /// Cell of the digit A in Base conversion.
     static constexpr int kFirstHexCell = 6;
 
@@ -250,6 +279,11 @@ std::string PressScript(FrameRig& rig, std::string_view script) {
 
 std::string PrintedLabel(int category, PanelCell cell, bool orange) {
     if (cell.panel == Panel::lower) {
+        for (const auto& [code, word] : kMacroPad) {
+            if (category == CATEGORY_MACROS && code == cell.cell) {
+                return std::string(word);
+            }
+        }
         if (!orange) {
             return Print(LabelOfKey(cell.cell));
         }

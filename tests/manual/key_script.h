@@ -11,7 +11,9 @@
 //   - [choose ITEM]: a row of the list that the key before has opened;
 //   - [tap MARK]: a mark of the display: line, memory, base, angle, format, word size;
 //   - [type TEXT], [press NAME]: characters and named keys of the keyboard;
-//   - [paste TEXT].
+//   - [paste TEXT];
+//   - [go CATEGORY]: a tile of the chooser;
+//   - [name NAME], [edit], [save]: field and key of the page of the user's macros.
 
 #include <string>
 #include <string_view>
