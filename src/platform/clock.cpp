@@ -1,5 +1,6 @@
 #include "platform/clock.h"
 
+#include <algorithm>
 #include <chrono>
 #include <ctime>
 
@@ -13,13 +14,21 @@ std::uint64_t SystemClock::TickCount() {
 }
 
 CalendarDay SystemClock::Today() {
+    return Now().date;
+}
+
+LocalTime SystemClock::Now() {
     const std::time_t now = std::time(nullptr);
     std::tm local{};
     if (localtime_r(&now, &local) == nullptr) {
-        return {1970, 1, 1};
+        return {{1970, 1, 1}, 0, 0, 0};
     }
-    return {static_cast<std::uint32_t>(local.tm_year + 1900), static_cast<std::uint32_t>(local.tm_mon + 1),
-            static_cast<std::uint32_t>(local.tm_mday)};
+    const auto number = [](int value) { return static_cast<std::uint32_t>(value); };
+    constexpr int kLastSecond = 59;  // a leap second counts as the one before
+    return {{number(local.tm_year + 1900), number(local.tm_mon + 1), number(local.tm_mday)},
+            number(local.tm_hour),
+            number(local.tm_min),
+            number(std::min(local.tm_sec, kLastSecond))};
 }
 
 }  // namespace quorix
