@@ -15,7 +15,8 @@ namespace {
 namespace fs = std::filesystem;
 
 /// What is copied into a user's folder: the shipped content, not the programs.
-constexpr std::string_view kSeededFolders[] = {"Interfaces", "Resources", "Sounds", "Formulas", "fonts"};
+constexpr std::string_view kSeededFolders[] = {"Interfaces", "Resources", "Sounds",
+                                               "Formulas",   "fonts",     "Help"};
 constexpr std::string_view kSeededEndings[] = {".dat", ".htm", ".mcr"};
 
 bool IsSeeded(const fs::directory_entry& entry) {
