@@ -1,0 +1,246 @@
+#include "equations/tex_translation.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstdio>
+#include <functional>
+#include <optional>
+
+#include "engine/format_value.h"
+#include "engine/named_functions.h"
+#include "engine/text_fold.h"
+#include "engine/variable_store.h"
+#include "equations/tex_forms.h"
+#include "numerics/qcore.h"
+
+namespace quorix {
+namespace {
+
+constexpr int kValueDecimals = 4;
+
+// Functions of lists and signs that are written as they are typed; "N", "min" and the others stand in so many
+// words and labels that they are not looked for at all.
+constexpr bool IsLookedFor(int row) {
+    return row != NAMED_N && row != NAMED_MIN && row != NAMED_MAX && row != NAMED_MEDIAN && row != NAMED_MD;
+}
+
+/// Names of functions in 8 bits.
+const std::array<std::string, NAMED_FUNCTION_COUNT>& NarrowNames() {
+    static const auto names = [] {
+        std::array<std::string, NAMED_FUNCTION_COUNT> narrow;
+        std::ranges::transform(NamedFunctionTable(), narrow.begin(), [](std::u16string_view name) {
+            return std::string(name.begin(), name.end());
+        });
+        return narrow;
+    }();
+    return names;
+}
+
+struct Call {
+    NamedFunction row;
+    std::size_t start;
+    std::size_t open;
+};
+
+/// The named function whose name stands before the "(" at `open`, blanks between them allowed. No name ends
+/// in another one, so at most one fits.
+std::optional<Call> CallAt(std::string_view text, std::size_t open) {
+    std::size_t end = open;
+    while (end > 0 && text[end - 1] == ' ') --end;
+    const std::string_view before = text.substr(0, end);
+    for (int row = 0; row < NAMED_FUNCTION_COUNT; ++row) {
+        const std::string& name = NarrowNames()[static_cast<std::size_t>(row)];
+        if (!IsLookedFor(row) || !before.ends_with(name)) continue;
+        const std::size_t start = end - name.size();
+        if (start > 0 && text[start - 1] == '\\') continue;
+        return Call{static_cast<NamedFunction>(row), start, open};
+    }
+    return std::nullopt;
+}
+
+std::size_t ClosingParenthesis(std::string_view text, std::size_t open) {
+    int depth = 0;
+    for (std::size_t at = open; at < text.size(); ++at) {
+        if (text[at] == '(') ++depth;
+        if (text[at] == ')' && --depth == 0) return at;
+    }
+    return std::string_view::npos;
+}
+
+void Translate(std::string& text, int depth);
+
+/// Goes over the calls from the outside inward. What is put in is translated already and is passed over; the
+/// arguments of a call that stays are looked at in their turn.
+void TranslateCalls(std::string& text, int depth) {
+    const auto translateArgument = [depth](std::string_view argument) {
+        std::string translated(argument);
+        Translate(translated, depth + 1);
+        return translated;
+    };
+    for (std::size_t at = 0; (at = text.find('(', at)) != text.npos && text.size() < kTexBufferSize;) {
+        const std::optional<Call> call = CallAt(text, at);
+        ++at;
+        if (!call) continue;
+        const std::size_t close = ClosingParenthesis(text, call->open);
+        if (close == text.npos) {
+            text.resize(call->start);
+            text.append(OpenCallToTeX(call->row));
+            return;
+        }
+        const std::string_view arguments =
+            std::string_view(text).substr(call->open + 1, close - call->open - 1);
+        if (const auto form = CallToTeX(call->row, arguments, translateArgument)) {
+            text.replace(call->start, close + 1 - call->start, *form);
+            at = call->start + form->size();
+        }
+    }
+}
+
+std::string RealText(const QReal& value) {
+    ClearNumericError();
+    const double narrow = qtoe(value);
+    const bool overflows = NumericErrorFlag() != NUMERIC_OK;
+    ClearNumericError();
+    if (!overflows) return TrimmedDecimal(narrow, kValueDecimals);
+    const FormattedValue text = FormatValue(value, {.digits = kValueDecimals});
+    std::string result(text.mantissa.begin(), text.mantissa.end());
+    return result.append(text.exponent.begin(), text.exponent.end());
+}
+
+std::string MatrixText(const CalcValue& matrix) {
+    std::string text = "\\left[\\begin{matrix} ";
+    for (std::size_t i = 0; i < matrix.data.size() && text.size() < kTexBufferSize; ++i) {
+        text += TrimmedDecimal(matrix.data[i], kValueDecimals);
+        text += (i + 1) % matrix.cols == 0 ? " \\\\ " : " & ";
+    }
+    return text + "\\end{matrix}\\right]";
+}
+
+/// Whether a negative value needs parentheses: everywhere but at the start of the text or of a group, and as
+/// the base of a power there too.
+bool NeedsParentheses(std::string_view text, std::size_t start, std::size_t end) {
+    const std::size_t before = text.substr(0, start).find_last_not_of(' ');
+    const bool startsGroup = before == text.npos || std::string_view("({=,").find(text[before]) != text.npos;
+    return !startsGroup || text.substr(end).starts_with("}^{") || text.substr(end).starts_with("^");
+}
+
+std::string ValueText(const CalcValue& value, std::string_view text, std::size_t start, std::size_t end) {
+    if (value.kind == KIND_MATRIX) return MatrixText(value);
+    std::string number = RealText(value.number.re);
+    if (value.kind == KIND_COMPLEX) {
+        const std::string imaginary = RealText(value.number.im);
+        number += (imaginary.starts_with('-') ? "" : "+") + imaginary + "i";
+    } else if (!number.starts_with('-')) {
+        return number;
+    }
+    return NeedsParentheses(text, start, end) ? "(" + number + ")" : number;
+}
+
+bool IsWord(char c) {
+    return static_cast<unsigned char>(c) < 0x80 && IsWordCharacter(static_cast<char16_t>(c));
+}
+
+/// Slot of a variable's name, in capitals, or in any case between brackets; -1 for another word.
+int SlotOf(std::string_view word, bool bracketed) {
+    constexpr std::size_t kLongestName = 4;
+    if (word.size() > kLongestName) return -1;
+    if (!bracketed && std::ranges::any_of(word, [](char c) { return c >= 'a' && c <= 'z'; })) return -1;
+    const std::u16string wide(word.begin(), word.end());
+    return FindVariable(wide);
+}
+
+void SubstituteValues(std::string& text) {
+    for (std::size_t at = 0; at < text.size() && text.size() < kTexBufferSize; ++at) {
+        if (!IsWord(text[at])) continue;
+        std::size_t start = at;
+        while (at < text.size() && IsWord(text[at])) ++at;
+        std::size_t end = at;
+        const bool bracketed = start > 0 && text[start - 1] == '[' && end < text.size() && text[end] == ']';
+        if (start > 0 && text[start - 1] == '\\') continue;
+        const int slot = SlotOf(std::string_view(text).substr(start, end - start), bracketed);
+        if (slot < 0) continue;
+        if (bracketed) {
+            --start;
+            ++end;
+        }
+        const std::string value = ValueText(Variable(slot), text, start, end);
+        text.replace(start, end - start, value);
+        at = start + value.size() - 1;
+    }
+}
+
+void Translate(std::string& text, int depth) {
+    TranslateFractions(text);
+    if (depth <= kDeepestNamedFunction) TranslateCalls(text, depth);
+    SubstituteValues(text);
+}
+
+// Greek letters from alpha (U+03B1) on; omicron and the capitals without a command are Latin letters.
+constexpr std::array<std::string_view, 25> kSmallGreek = {
+    "\\alpha ", "\\beta ", "\\gamma ", "\\delta ",    "\\epsilon ", "\\zeta ", "\\eta ",
+    "\\theta ", "\\iota ", "\\kappa ", "\\lambda ",   "\\mu ",      "\\nu ",   "\\xi ",
+    "o",        "\\pi ",   "\\rho ",   "\\varsigma ", "\\sigma ",   "\\tau ",  "\\upsilon ",
+    "\\phi ",   "\\chi ",  "\\psi ",   "\\omega "};
+constexpr std::array<std::string_view, 25> kCapitalGreek = {
+    "A",        "B",         "\\Gamma ",   "\\Delta ", "E",     "Z",      "H",       "\\Theta ", "I",
+    "K",        "\\Lambda ", "M",          "N",        "\\Xi ", "O",      "\\Pi ",   "P",        "?",
+    "\\Sigma ", "T",         "\\Upsilon ", "\\Phi ",   "X",     "\\Psi ", "\\Omega "};
+constexpr char16_t kAlpha = 0x03B1;
+constexpr char16_t kCapitalAlpha = 0x0391;
+
+std::string_view SignToTeX(char16_t c) {
+    if (c >= kAlpha && c < kAlpha + kSmallGreek.size()) return kSmallGreek[c - kAlpha];
+    if (c >= kCapitalAlpha && c < kCapitalAlpha + kCapitalGreek.size())
+        return kCapitalGreek[c - kCapitalAlpha];
+    switch (c) {
+        case u'%': return "\\%";
+        case 0x00D7: return "*";
+        case 0x00F7: return "/";
+        case 0x2212: return "-";
+        case 0x00B8: return ",";
+        default: return "?";
+    }
+}
+
+}  // namespace
+
+int TranslateToTeX(std::string& text) {
+    Translate(text, 0);
+    return 1;
+}
+
+std::string NarrowToTeX(std::u16string_view text) {
+    std::string narrow;
+    narrow.reserve(text.size());
+    for (const char16_t c : text) {
+        if (c < 0x80 && c >= u' ' && c != u'%') {
+            narrow.push_back(static_cast<char>(c));
+        } else {
+            narrow.append(SignToTeX(c));
+        }
+    }
+    return narrow;
+}
+
+std::string ExpressionToTeX(std::u16string_view engineText) {
+    if (engineText.size() >= kTexSourceLimit) return std::string(kTexSourceOverlength);
+    std::string text = NarrowToTeX(engineText);
+    TranslatePowers(text);
+    TranslateToTeX(text);
+    WrapDelimiters(text);
+    return text.size() < kTexBufferSize ? text : std::string(kTexOverlength);
+}
+
+std::string TrimmedDecimal(double value, int decimals) {
+    char buffer[400];
+    const int length = std::snprintf(buffer, sizeof buffer, "%.*f", decimals, value);
+    std::string text(buffer, std::clamp<std::size_t>(static_cast<std::size_t>(length), 0, sizeof buffer - 1));
+    if (text.find('.') != text.npos) {
+        text.erase(text.find_last_not_of('0') + 1);
+        if (text.ends_with('.')) text.pop_back();
+    }
+    return text == "-0" ? "0" : text;
+}
+
+}  // namespace quorix
