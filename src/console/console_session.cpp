@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "console/matrix_literal.h"
+#include "matrix/matrix_literal.h"
 #include "engine/evaluate.h"
 #include "engine/number_locale.h"
 #include "engine/text_fold.h"

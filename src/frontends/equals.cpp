@@ -80,10 +80,10 @@ void EqualsPath::Evaluate(int category) {
     if (calcContext().calcError != 0) {
         ShowMessage(ErrorMessageFor(calcContext().calcError), category);
     } else if (value.kind == KIND_MATRIX) {
-        if (hooks_.storeMatrix) {
-            hooks_.storeMatrix(value);
-        }
         display_.Key(KEY_EQUALS);
+        if (hooks_.takeMatrix) {
+            display_.SetResultText(hooks_.takeMatrix(value));
+        }
     } else {
         ShowValue(value, category);
     }

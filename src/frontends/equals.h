@@ -21,8 +21,8 @@ class EqualsPath {
     struct Hooks {
         /// Expands macro calls in display text; false sets calcError.
         std::function<bool(std::u16string& line)> expandMacros;
-        /// Takes a matrix result of the Matrix category.
-        std::function<void(const CalcValue& matrix)> storeMatrix;
+        /// Takes a matrix result of the Matrix category; gives the text for the result row.
+        std::function<std::u16string(const CalcValue& matrix)> takeMatrix;
     };
 
     /// display outlives this; waitCursor may be null.

@@ -75,6 +75,14 @@ void TypeAhead::Close() {
     }
 }
 
+void TypeAhead::Finish() {
+    if (IsOpen() && candidates_.front().name.size() == prefix_.size()) {
+        Accept(0);
+    } else {
+        Close();
+    }
+}
+
 void TypeAhead::Choose(std::size_t row) {
     if (row < candidates_.size() && row != chosen_) {
         chosen_ = row;

@@ -50,6 +50,8 @@ class TypeAhead {
     /// Takes the row into the line and closes.
     void Accept(std::size_t row);
     void Choose(std::size_t row);
+    /// A key of the pad ends the word: a whole name goes into the line, a part of one is given up.
+    void Finish();
     /// Closes without a choice: another key, a tap, a change of category.
     void Close();
 

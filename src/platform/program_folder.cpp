@@ -17,6 +17,10 @@ namespace fs = std::filesystem;
 /// What is copied into a user's folder: the shipped content, not the programs.
 constexpr std::string_view kSeededFolders[] = {"Interfaces", "Resources", "Sounds",
                                                "Formulas",   "fonts",     "Help"};
+/// Of these what a newer installation brings replaces what was copied before; the others hold the user's own
+/// work.
+constexpr std::string_view kReplacedFolders[] = {"Interfaces", "Resources", "Sounds", "Help", "fonts"};
+constexpr std::string_view kReplacedEnding = ".htm";
 constexpr std::string_view kSeededEndings[] = {".dat", ".htm", ".mcr"};
 
 bool IsSeeded(const fs::directory_entry& entry) {
@@ -29,6 +33,12 @@ bool IsSeeded(const fs::directory_entry& entry) {
     const std::string ending = entry.path().extension().string();
     return std::find(std::begin(kSeededEndings), std::end(kSeededEndings), ending) !=
            std::end(kSeededEndings);
+}
+
+bool IsReplaced(const fs::directory_entry& entry) {
+    return entry.path().extension() == kReplacedEnding ||
+           std::find(std::begin(kReplacedFolders), std::end(kReplacedFolders), entry.path().filename()) !=
+               std::end(kReplacedFolders);
 }
 
 /// Asks by doing: permissions alone do not tell of read-only file systems.
@@ -49,8 +59,10 @@ void SeedFolder(const fs::path& installed, const fs::path& folder) {
     std::error_code error;
     for (const fs::directory_entry& entry : fs::directory_iterator(installed, error)) {
         if (IsSeeded(entry)) {
-            fs::copy(entry.path(), folder / entry.path().filename(),
-                     fs::copy_options::recursive | fs::copy_options::skip_existing, error);
+            const fs::copy_options kept = fs::copy_options::recursive | fs::copy_options::skip_existing;
+            const fs::copy_options replaced = fs::copy_options::recursive | fs::copy_options::update_existing;
+            fs::copy(entry.path(), folder / entry.path().filename(), IsReplaced(entry) ? replaced : kept,
+                     error);
         }
     }
 }

@@ -4,8 +4,10 @@
 
 #include "engine/calc_context.h"
 #include "frontends/base_conversion.h"
+#include "matrix/matrix_literal.h"
 #include "platform/files.h"
 #include "platform/path.h"
+#include "platform/utf8.h"
 
 namespace quorix {
 
@@ -51,7 +53,11 @@ CMainFrame::CMainFrame(const Surroundings& surroundings, const DeviceScreen& scr
         *display_, surroundings.waitCursor,
         EqualsPath::Hooks{
             .expandMacros = [this](std::u16string& line) { return ExpandMacros(macros_, line); },
-            .storeMatrix = {}});
+            .takeMatrix =
+                [this](const CalcValue& matrix) {
+                    const char16_t sign = preferences_.calculator.numberLocale == u"European" ? u',' : u'.';
+                    return FromUtf8(MatrixText(matrix, sign));
+                }});
     previousInputMode_ = preferences_.calculator.inputMode;
 }
 

@@ -94,7 +94,7 @@ void CMainFrame::EndPress() {
 
 void CMainFrame::ButtonDown(Point point) {
     EndPress();
-    names_->Close();
+    names_->Finish();
     const PanelCell cell = CellAt(CurrentOrientation(), Scale(), point);
     const PageGround ground = EntryOf(currentCategory_).ground;
     if (cell.panel == Panel::none || ground == PageGround::window ||

@@ -14,6 +14,8 @@
 namespace quorix {
 namespace {
 
+using namespace std::chrono_literals;
+
 namespace fs = std::filesystem;
 using testing::TemporaryFolder;
 
@@ -74,6 +76,15 @@ TEST(Files, TheProgramFolderIsTheFirstWritableOne) {
     SeedFolder(folder / "installed", folder / "user");
     EXPECT_TRUE(fs::exists(folder / "user/Interfaces/default.inf"));
     EXPECT_FALSE(fs::exists(folder / "user/program"));
+    EXPECT_EQ(fs::file_size(folder / "user/units.dat"), 4U);
+    // A newer installation brings its pictures, and leaves the user's data and his own skins.
+    folder.Write("user/Interfaces/mine.inf", "my skin");
+    folder.Write("installed/Interfaces/default.inf", "key = another value");
+    fs::last_write_time(folder / "installed/Interfaces/default.inf", fs::file_time_type::clock::now() + 1h);
+    fs::last_write_time(folder / "installed/units.dat", fs::file_time_type::clock::now() + 1h);
+    SeedFolder(folder / "installed", folder / "user");
+    EXPECT_EQ(fs::file_size(folder / "user/Interfaces/default.inf"), 19U);
+    EXPECT_TRUE(fs::exists(folder / "user/Interfaces/mine.inf"));
     EXPECT_EQ(fs::file_size(folder / "user/units.dat"), 4U);
 }
 

@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include "engine/eval_matrix.h"
+#include "matrix/matrix_operators.h"
+
 #include "support/frame_rig.h"
 
 namespace quorix {
@@ -118,6 +121,21 @@ TEST(MainFrame, PopupListsSendTheirKeys) {
     rig.frame.PopupChosen(POPUP_FUNCTIONS, 1);
     rig.frame.PopupChosen(POPUP_FUNCTIONS, 99);
     EXPECT_EQ(rig.Row(), "∫(");
+}
+
+TEST(MainFrame, WordsAndMatricesReachTheDisplay) {
+    const TemporaryFolder folder;
+    FrameRig rig(folder.Path());
+    rig.TypeText(u"2pi");
+    rig.TapPad("+1=");
+    EXPECT_EQ(rig.Row(), "2pi+1") << "a tap ends a whole word";
+    rig.frame.SwitchCategory(CATEGORY_MATRIX);
+    rig.TapPad("C");
+    SetMatrixOperators(MatrixOperatorTable());
+    SetVariableMatrix(2, 2, 2, std::array{1.0, 2.0, 3.0, 4.0});
+    rig.frame.Display().Paste(u"trans([VA])");
+    rig.TapPad("=");
+    EXPECT_EQ(rig.Result(), "[1 3;2 4]");
 }
 
 TEST(MainFrame, HardKeysStepThroughTheEnabledCategories) {

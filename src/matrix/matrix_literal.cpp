@@ -1,4 +1,4 @@
-#include "console/matrix_literal.h"
+#include "matrix/matrix_literal.h"
 
 #include <algorithm>
 #include <charconv>
