@@ -2,12 +2,12 @@
 
 #include <algorithm>
 
-#include "matrix/matrix_literal.h"
 #include "engine/evaluate.h"
 #include "engine/number_locale.h"
 #include "engine/text_fold.h"
 #include "engine/variable_store.h"
 #include "frontends/engine_text.h"
+#include "matrix/matrix_literal.h"
 #include "platform/utf8.h"
 
 namespace quorix {
