@@ -227,9 +227,14 @@ TEST_F(ShellWndTest, ListsKeepTheirArrowKeysAndTheLetterKeyboardTheFocus) {
     window->Frame().SwitchCategory(CATEGORY_MACROS);
     auto* const page = window->Module(ModuleWindow::macros);
     window->activateWindow();
+    QApplication::processEvents();
     page->SendMessage(MSG_BUTTON, 2, 0);
     auto* const name = page->findChildren<QLineEdit*>()[0];
-    auto* const letters = window->findChild<MorvaneCalNumberKeyboardWnd*>();
+    MorvaneCalNumberKeyboardWnd* letters = nullptr;
+    for (QWidget* const child : window->findChildren<QWidget*>()) {
+        auto* const keyboard = dynamic_cast<MorvaneCalNumberKeyboardWnd*>(child);
+        letters = keyboard != nullptr ? keyboard : letters;
+    }
     ASSERT_NE(letters, nullptr);
     name->setFocus();
     for (const int cell : {4, 5}) {
