@@ -63,9 +63,12 @@ void EqualsPath::Evaluate(int category) {
         return;
     }
     if (category == CATEGORY_BASE_CONVERSION) {
+        const bool callsMacros = line != display_.GetLine();
         NormaliseLine(display_);
         display_.Key(KEY_NORM);
-        line = display_.GetLine();
+        if (!callsMacros) {
+            line = display_.GetLine();
+        }
     }
     const int radix = category == CATEGORY_MATRIX ? 10 : RadixOf(display_.GetBase());
     const auto text = ToEngineText(line, display_.Settings().numberLocale, radix);

@@ -26,6 +26,12 @@ constexpr MacroLayout kPortrait = {{0, 0, 39, 28},     {41, 2, 194, 25}, {195, 0
 constexpr MacroLayout kLandscape = {{0, 0, 39, 27},    {41, 2, 156, 25},   {157, 0, 196, 27},
                                     {198, 2, 311, 25}, {273, 27, 312, 54}, {1, 29, 232, 52},
                                     {234, 27, 273, 54}};
+/// A square screen has no room below the fields for five rows of letters: the two that are typed into move
+/// up, the rest lies covered.
+constexpr MacroLayout kSquareLetters = {{0, 0, 39, 28},    {41, 2, 194, 23},   {195, 0, 234, 28},
+                                        {1, 60, 194, 83},  {195, 56, 234, 84}, {1, 24, 194, 45},
+                                        {195, 56, 234, 84}};
+constexpr Rect kSquareLettersPlace{3, 100, 237, 240};
 
 enum ButtonId : int { BUTTON_LIST = 1, BUTTON_LETTERS = 2, BUTTON_EDIT = 3 };
 
@@ -73,7 +79,7 @@ MacroWnd::MacroWnd(WindowBase& frame, ModuleSite& site, int category)
         if (refresh != 0) {
             Refresh();
         } else {
-            delete keyboard_;
+            CloseLetters();
         }
         return 0;
     });
@@ -90,6 +96,13 @@ MacroWnd::MacroWnd(WindowBase& frame, ModuleSite& site, int category)
         }
         return 0;
     });
+    Handle(MSG_SKIN_CHANGED, [this](MessageParam, MessageParam) {
+        LayOut();
+        if (keyboard_) {
+            keyboard_->ReloadPictures();
+        }
+        return 0;
+    });
     Refresh();
 }
 
@@ -102,7 +115,11 @@ std::unique_ptr<ModuleWnd> MacroWnd::Make(WindowBase& frame, ModuleSite& site, i
 }
 
 const MacroLayout& MacroWnd::Layout() const {
-    return Site().Frame().CurrentOrientation() == Orientation::landscape ? kLandscape : kPortrait;
+    switch (Site().Frame().CurrentOrientation()) {
+        case Orientation::landscape: return kLandscape;
+        case Orientation::square: return keyboard_ ? kSquareLetters : kPortrait;
+        default: return kPortrait;
+    }
 }
 
 Rect MacroWnd::ChooserKey() const {
@@ -135,8 +152,11 @@ void MacroWnd::LayOut() {
     letters_->LayOut(layout.letters);
     edit_->LayOut(layout.edit);
     if (keyboard_) {
-        keyboard_->LayOut(quorix::LayoutOf(Site().Frame().CurrentOrientation()).lowerPanel);
+        const Orientation orientation = Site().Frame().CurrentOrientation();
+        keyboard_->LayOut(orientation == Orientation::square ? kSquareLettersPlace
+                                                             : quorix::LayoutOf(orientation).lowerPanel);
     }
+    InvalidateAll();
 }
 
 void MacroWnd::OnScaleChanged() {
@@ -144,7 +164,17 @@ void MacroWnd::OnScaleChanged() {
 }
 
 void MacroWnd::hideEvent(QHideEvent* /*event*/) {
-    delete keyboard_;
+    CloseLetters();
+}
+
+void MacroWnd::CloseLetters() {
+    if (keyboard_) {
+        // It may be within a handler of its own.
+        keyboard_->hide();
+        keyboard_->deleteLater();
+        keyboard_ = nullptr;
+        LayOut();
+    }
 }
 
 void MacroWnd::Refresh() {
@@ -185,11 +215,13 @@ void MacroWnd::OpenNames() {
 
 void MacroWnd::ToggleLetters() {
     if (keyboard_) {
-        delete keyboard_;
+        CloseLetters();
         return;
     }
     keyboard_ = new MorvaneCalNumberKeyboardWnd(frame_, *this, Site(), PadKind::letters);
-    keyboard_->LayOut(quorix::LayoutOf(Site().Frame().CurrentOrientation()).lowerPanel);
+    keyboard_->SetCommandNames(
+        {QStringLiteral("done"), QStringLiteral("clear"), QStringLiteral("list of macros")});
+    LayOut();
     keyboard_->show();
     if (!remark_->hasFocus()) {
         name_->setFocus();

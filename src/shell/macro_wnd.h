@@ -31,6 +31,7 @@ class MacroWnd : public ModuleWnd {
     void OnButton(int id);
     void OpenNames();
     void ToggleLetters();
+    void CloseLetters();
     void PlaceField(QLineEdit& field, const Rect& units);
     [[nodiscard]] const struct MacroLayout& Layout() const;
 

@@ -57,7 +57,9 @@ enum PopupId : int {
 enum class Tool : std::uint8_t { preferences, help, about, exit, count };
 
 /// Keys of the device and of a keyboard that are no characters.
-enum class HardKey : std::uint8_t { up, down, left, right, remove };
+enum class HardKey : std::uint8_t { up, down, left, right, remove, count };
+
+inline constexpr std::size_t kHardKeyCount = static_cast<std::size_t>(HardKey::count);
 
 /// What the window does for the frame. No call may destroy the frame; only RunTool may handle messages
 /// before it returns.

@@ -585,6 +585,7 @@ void MainFrameWnd::keyPressEvent(QKeyEvent* event) {
         return;
     }
     if (const auto hardKey = HardKeyOf(event->key())) {
+        hardKeysDown_.set(static_cast<std::size_t>(*hardKey));
         frame_->KeyDown(*hardKey);
         return;
     }
@@ -601,8 +602,14 @@ void MainFrameWnd::keyPressEvent(QKeyEvent* event) {
 }
 
 void MainFrameWnd::keyReleaseEvent(QKeyEvent* event) {
-    if (const auto hardKey = HardKeyOf(event->key());
-        hardKey && !event->isAutoRepeat() && !frame_->ChooserOpen()) {
+    const auto hardKey = HardKeyOf(event->key());
+    if (!hardKey || event->isAutoRepeat()) {
+        return;
+    }
+    // The release of a key whose press a list, the chooser or a field took is none of the frame's.
+    const auto index = static_cast<std::size_t>(*hardKey);
+    if (hardKeysDown_.test(index)) {
+        hardKeysDown_.reset(index);
         frame_->KeyUp(*hardKey);
     }
 }

@@ -5,6 +5,7 @@
 
 #include <QPointer>
 #include <array>
+#include <bitset>
 #include <memory>
 
 #include "frontends/hint_wnd.h"
@@ -153,6 +154,8 @@ class MainFrameWnd : public WindowBase, public FrameHost, public ModuleSite, pub
     /// There while the window fills the screen.
     std::unique_ptr<FullScreenGround> ground_;
     bool closed_ = false;
+    /// By HardKey: pressed here and not released yet.
+    std::bitset<kHardKeyCount> hardKeysDown_;
     std::function<void()> whenClosed_;
 };
 

@@ -40,6 +40,19 @@ MorvaneCalNumberKeyboardWnd::MorvaneCalNumberKeyboardWnd(WindowBase& parent, Win
       kind_(kind),
       pad_(kind, site.Frame().CurrentOrientation() == Orientation::landscape) {
     setFocusPolicy(Qt::NoFocus);
+    LeaveFocusAlone(QApplication::focusWidget());
+    connect(qApp, &QApplication::focusChanged, this,
+            [this](QWidget* /*old*/, QWidget* now) { LeaveFocusAlone(now); });
+}
+
+/// A press would pass the focus on to the parent; one on the proxy of the focus's owner leaves it there.
+void MorvaneCalNumberKeyboardWnd::LeaveFocusAlone(QWidget* focus) {
+    setFocusProxy(focus != nullptr && TakesText(*focus) ? focus : nullptr);
+}
+
+void MorvaneCalNumberKeyboardWnd::OnScaleChanged() {
+    density_ = 0;
+    InvalidateAll();
 }
 
 void MorvaneCalNumberKeyboardWnd::LayOut(const Rect& place) {
@@ -111,6 +124,31 @@ void MorvaneCalNumberKeyboardWnd::OnPenUp(Point at) {
     }
     site_.Frame().KeySound();
     Press(*pad_.KeyOf(pad_.CellAt(at, Scale())));
+}
+
+QString MorvaneCalNumberKeyboardWnd::AccessibleCellName(int index) const {
+    const auto key = pad_.KeyOf(index);
+    if (!key || pad_.FirstJoined(index) != index) {
+        return {};
+    }
+    switch (key->kind) {
+        case PadKey::Kind::command: return commandNames_[static_cast<std::size_t>(key->value)];
+        case PadKey::Kind::left: return QStringLiteral("cursor left");
+        case PadKey::Kind::right: return QStringLiteral("cursor right");
+        default: break;
+    }
+    return key->value == '\b' ? QStringLiteral("backspace") : QString(QChar(key->value));
+}
+
+QRect MorvaneCalNumberKeyboardWnd::AccessibleCellRect(int index) const {
+    return OnDesktop(pad_.RectOf(index).Scaled(Scale()));
+}
+
+void MorvaneCalNumberKeyboardWnd::PressAccessibleCell(int index) {
+    if (const auto key = pad_.KeyOf(index)) {
+        site_.Frame().KeySound();
+        Press(*key);
+    }
 }
 
 void MorvaneCalNumberKeyboardWnd::Press(const PadKey& key) {

@@ -7,11 +7,14 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMouseEvent>
 #include <set>
 
 #include "platform/program_folder.h"
 #include "platform/utf8.h"
 #include "shell/main_frame_wnd.h"
+#include "shell/morvane_button_wnd.h"
+#include "shell/number_keyboard_wnd.h"
 #include "shell/preferences_dialog.h"
 #include "support/temporary_folder.h"
 
@@ -211,6 +214,39 @@ TEST_F(ShellWndTest, AMacroIsWrittenCalledAndKept) {
     Press(*window, Qt::Key_Return);
     TypeText(*window, QStringLiteral("5,5)="));
     EXPECT_EQ(Result(*window), "25");
+}
+
+TEST_F(ShellWndTest, ListsKeepTheirArrowKeysAndTheLetterKeyboardTheFocus) {
+    const auto window = Open();
+    PressCellNamed(*window, QStringLiteral("function list"));
+    Press(*window, Qt::Key_Down);
+    Press(*window, Qt::Key_Down);
+    Press(*window, Qt::Key_Return);
+    EXPECT_EQ(window->Frame().CurrentCategory(), CATEGORY_ARITHMETIC);
+    EXPECT_EQ(Row(*window), "∫(");
+    window->Frame().SwitchCategory(CATEGORY_MACROS);
+    auto* const page = window->Module(ModuleWindow::macros);
+    window->activateWindow();
+    QApplication::processEvents();
+    page->SendMessage(MSG_BUTTON, 2, 0);
+    auto* const name = page->findChildren<QLineEdit*>()[0];
+    MorvaneCalNumberKeyboardWnd* letters = nullptr;
+    for (QWidget* const child : window->findChildren<QWidget*>()) {
+        auto* const keyboard = dynamic_cast<MorvaneCalNumberKeyboardWnd*>(child);
+        letters = keyboard != nullptr ? keyboard : letters;
+    }
+    ASSERT_NE(letters, nullptr);
+    name->setFocus();
+    for (const int cell : {4, 5}) {
+        const QPointF at = letters->AccessibleCellRect(cell).center();
+        for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+            QMouseEvent event(type, at, letters->mapToGlobal(at), Qt::LeftButton,
+                              type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton,
+                              Qt::NoModifier);
+            QApplication::sendEvent(letters, &event);
+        }
+    }
+    EXPECT_EQ(name->text(), QStringLiteral("ab"));
 }
 
 TEST_F(ShellWndTest, TheWholeScreenAndBack) {
