@@ -149,7 +149,12 @@ void Converter::ChooseUnit(int side, int index, const ListItem& item) {
     }
     Side(side) = {NameOfItem(item), index};
     SideText(side).label = item.tag;
-    if (!NumberShown(SideText(1 - side).value, ports_.numberLocale)) {
+    const std::u16string& fixed = SideText(1 - side).value;
+    if (fixed.empty()) {
+        return;
+    }
+    if (!NumberShown(fixed, ports_.numberLocale)) {
+        ShowConverted(1 - side);  // A message of the units before gives way to what the new ones say.
         return;
     }
     ShowConverted(side);
