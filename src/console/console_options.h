@@ -12,11 +12,17 @@
 
 namespace quorix {
 
+/// What is done instead of calculating lines.
+enum class ConsoleTask { calculate, solve, tex };
+
 struct ConsoleOptions {
     std::int32_t angleUnit = UNIT_DEGREES;
     ResultSettings result;
     /// UTF-8; none means to read lines.
     std::optional<std::string> expression;
+    ConsoleTask task = ConsoleTask::calculate;
+    /// UTF-8: the coefficients to solve, or the expression to translate.
+    std::string taskText;
     bool showHelp = false;
     bool showVersion = false;
 };
