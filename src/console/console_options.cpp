@@ -88,6 +88,12 @@ constexpr auto kValueOptions = std::to_array<OptionRow>({
                    std::string_view value) { return SetTask(options, ConsoleTask::solve, value); }},
     {"--tex", [](ConsoleOptions& options,
                  std::string_view value) { return SetTask(options, ConsoleTask::tex, value); }},
+    {"--picture",
+     [](ConsoleOptions& options, std::string_view value) {
+         options.task = ConsoleTask::picture;
+         options.pictureFile = value;
+         return !value.empty();
+     }},
 });
 
 class Parser {
@@ -185,6 +191,7 @@ rank, eigl, eigv, diag, orth, tri or solve; in it + - * / are the only others.
                              first: '1 -3 2'; of linear equations, which part at
                              ";", with the right-hand side last: '2 1 5; 1 -1 1'
   --tex EXPRESSION           the expression as TeX
+  --picture FILE EXPRESSION  the expression typeset, as a PNG file
   --help, --version          this text, the version
   --                         ends the options: quorix-calc -- '--help'
 

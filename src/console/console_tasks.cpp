@@ -4,10 +4,15 @@
 #include <vector>
 
 #include "engine/calc_context.h"
+#include "equations/equation_picture.h"
 #include "equations/equation_solver.h"
 #include "equations/simultaneous.h"
 #include "equations/tex_translation.h"
 #include "frontends/engine_text.h"
+#include "platform/files.h"
+#include "platform/mtex_exports.h"
+#include "platform/png_writer.h"
+#include "platform/program_folder.h"
 #include "platform/utf8.h"
 
 namespace quorix {
@@ -46,6 +51,27 @@ bool Solve(const ConsoleOptions& options, std::string& output) {
     return WriteLines(SolveEquationCommand(text), output);
 }
 
+/// Black on white at the size of the pages of a screen of double density.
+bool WritePicture(const ConsoleOptions& options, std::string& output) {
+    const std::optional<std::u16string> engineText =
+        ToEngineText(FromUtf8(options.expression.value_or("")), options.result.numberLocale, 10);
+    const std::string tex = engineText ? ExpressionToTeX(*engineText) : std::string(kTexSourceOverlength);
+    EquationRasteriser rasteriser(ExecutableFolder() / mtex::kLibraryFile);
+    EquationView view;
+    if (!RenderEquation(rasteriser, view, tex, PageSizeCommand(2))) {
+        output = ToUtf8(kRenderFailed) + "\n";
+        return false;
+    }
+    const std::vector<std::uint8_t> file = EncodePng(view.picture);
+    if (file.empty()) {
+        output = "There is no picture of it\n";
+        return false;
+    }
+    const bool written = WriteFileAtomically(options.pictureFile, file);
+    if (!written) output = options.pictureFile + " cannot be written\n";
+    return written;
+}
+
 bool WriteTeX(const ConsoleOptions& options, std::string& output) {
     const std::optional<std::u16string> engineText =
         ToEngineText(FromUtf8(options.taskText), options.result.numberLocale, 10);
@@ -59,7 +85,11 @@ bool WriteTeX(const ConsoleOptions& options, std::string& output) {
 bool RunTask(const ConsoleOptions& options, std::string& output) {
     SetAngleUnit(options.angleUnit);
     output.clear();
-    return options.task == ConsoleTask::solve ? Solve(options, output) : WriteTeX(options, output);
+    switch (options.task) {
+        case ConsoleTask::solve: return Solve(options, output);
+        case ConsoleTask::picture: return WritePicture(options, output);
+        default: return WriteTeX(options, output);
+    }
 }
 
 }  // namespace quorix
