@@ -57,6 +57,24 @@ void AppendConstant(std::u16string& text, std::u16string_view token) {
     text.append(takesSign ? u"-(" : u"+(").append(token.substr(takesSign ? 1 : 0)).append(u")");
 }
 
+/// "sqrt(x)" to "\sqrt{x}".
+void TranslateRoots(std::string& text) {
+    constexpr std::string_view kRoot = "sqrt(";
+    for (std::size_t at = 0; (at = text.find(kRoot, at)) != text.npos; at += kRoot.size()) {
+        const std::size_t open = at + kRoot.size() - 1;
+        std::size_t close = open;
+        int depth = 0;
+        for (; close < text.size(); ++close) {
+            if (text[close] == '(') ++depth;
+            if (text[close] == ')' && --depth == 0) break;
+        }
+        if (close == text.size() || (at > 0 && text[at - 1] == '\\')) continue;
+        text[open] = '{';
+        text[close] = '}';
+        text.insert(at, 1, '\\');
+    }
+}
+
 /// Takes out the parentheses that a reader does not need: those around no sum, delimiters excepted.
 void DropParentheses(std::string& text) {
     std::vector<std::size_t> open;
@@ -81,6 +99,7 @@ std::optional<std::string> EquationToTeX(std::u16string_view text) {
     TranslatePowers(tex);
     TranslateToTeX(tex);
     if (tex.size() >= kTexBufferSize) return std::nullopt;
+    TranslateRoots(tex);
     DropParentheses(tex);
     constexpr std::string_view kMarkedEquals = "*=*";
     for (std::size_t at = 0; (at = tex.find(kMarkedEquals, at)) != tex.npos; ++at) {

@@ -50,14 +50,78 @@ constexpr auto kCommands = std::to_array<std::string_view>({
 });
 static_assert(std::ranges::is_sorted(kCommands));
 
-// Words that the rasteriser reads as functions: before a delimiter, and before anything.
-constexpr std::array<std::string_view, 6> kFunctions = {"abs", "acos", "asin", "cos", "sin", "sqrt"};
-constexpr std::array<std::string_view, 2> kAlwaysFunctions = {"det", "exp"};
+struct FunctionWord {
+    std::string_view word;
+    std::string_view command;
+};
+
+constexpr auto kFunctionWords = std::to_array<FunctionWord>({
+    {"acos", "\\arccos "},
+    {"asin", "\\arcsin "},
+    {"atan", "\\arctan "},
+    {"cos", "\\cos "},
+    {"cosh", "\\cosh "},
+    {"csc", "\\csc "},
+    {"det", "\\det "},
+    {"exp", "\\exp "},
+    {"gcd", "\\gcd "},
+    {"ln", "\\ln "},
+    {"log", "\\log "},
+    {"sec", "\\sec "},
+    {"sin", "\\sin "},
+    {"sinh", "\\sinh "},
+    {"sqrt", "\\sqrt "},
+    {"tan", "\\tan "},
+    {"tanh", "\\tanh "},
+});
 
 constexpr std::string_view kSigns = "\\%,;:! {}|#$&_";
 
 constexpr bool IsLetter(char c) {
     return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
+}
+
+constexpr std::string_view kRoot = "sqrt";
+constexpr std::string_view kOpening = "\\left(";
+constexpr std::string_view kClosing = "\\right)";
+constexpr int kDeepestRoot = 64;
+
+/// The "\right)" that closes a "\left(" at `at`; npos when none stands there or it stays open.
+std::size_t ClosingDelimiter(std::string_view tex, std::size_t at) {
+    if (!tex.substr(at).starts_with(kOpening)) return tex.npos;
+    int depth = 0;
+    for (; at < tex.size(); ++at) {
+        const std::string_view rest = tex.substr(at);
+        if (rest.starts_with(kOpening)) ++depth;
+        if (rest.starts_with(kClosing) && --depth == 0) return at;
+    }
+    return tex.npos;
+}
+
+std::string PreparedGroup(std::string_view tex, int depth) {
+    std::string prepared;
+    for (std::size_t at = 0; at < tex.size();) {
+        std::size_t end = at;
+        while (end < tex.size() && IsLetter(tex[end])) ++end;
+        if (end == at) {
+            prepared.push_back(tex[at++]);
+            continue;
+        }
+        const std::string_view word = tex.substr(at, end - at);
+        const auto function = std::ranges::find(kFunctionWords, word, &FunctionWord::word);
+        const bool isCommand = at > 0 && tex[at - 1] == '\\';
+        prepared.append(isCommand || function == kFunctionWords.end() ? word : function->command);
+        at = end;
+        if (function == kFunctionWords.end() || isCommand || word != kRoot) continue;
+        // The argument of a root is a group.
+        const std::size_t close = depth < kDeepestRoot ? ClosingDelimiter(tex, at) : tex.npos;
+        if (close == tex.npos) continue;
+        const std::string radicand =
+            PreparedGroup(tex.substr(at + kOpening.size(), close - at - kOpening.size()), depth + 1);
+        prepared.append("{").append(radicand).append("}");
+        at = close + kClosing.size();
+    }
+    return prepared;
 }
 
 }  // namespace
@@ -83,28 +147,7 @@ bool IsHarmlessTex(std::string_view tex) {
 }
 
 std::string PreparedTex(std::string_view tex) {
-    std::string prepared = "\\nosmash ";  // Without it "=-" runs together.
-    for (std::size_t at = 0; at < tex.size();) {
-        std::size_t end = at;
-        while (end < tex.size() && IsLetter(tex[end])) ++end;
-        if (end == at) {
-            prepared.push_back(tex[at++]);
-            continue;
-        }
-        const std::string_view word = tex.substr(at, end - at);
-        const std::size_t next = std::min(tex.find_first_not_of(' ', end), tex.size());
-        const bool isCommand = at > 0 && tex[at - 1] == '\\';
-        const bool isFunction = std::ranges::find(kAlwaysFunctions, word) != kAlwaysFunctions.end() ||
-                                (std::ranges::find(kFunctions, word) != kFunctions.end() &&
-                                 tex.substr(next).starts_with("\\left"));
-        if (isFunction && !isCommand) {
-            prepared.append("{").append(word).append("}");
-        } else {
-            prepared.append(word);
-        }
-        at = end;
-    }
-    return prepared;
+    return "\\nosmash " + PreparedGroup(tex, 0);  // Without it "=-" runs together.
 }
 
 }  // namespace quorix::mtex

@@ -13,8 +13,8 @@ inline constexpr std::size_t kLongestTex = 8191;
 /// The rasteriser knows commands that read files, run programs or define macros; none of them is in it.
 bool IsHarmlessTex(std::string_view tex);
 
-/// The text as the rasteriser takes it. It reads some words as functions of what follows them, which takes
-/// delimiters apart ("sin\left(") and makes powers of "exp": braces keep them words.
+/// The text as the rasteriser takes it. It reads some bare words as functions of what follows them, which
+/// takes delimiters apart ("sin\left(") and loses words ("det"): names of functions become commands.
 std::string PreparedTex(std::string_view tex);
 
 }  // namespace quorix::mtex

@@ -33,7 +33,7 @@ TEST(EquationPage, ComposedText) {
     std::u16string fractions;
     while (fractions.size() < 4000) fractions += u"1/3 ";
     EXPECT_EQ(ComposeEquationPage(fractions, {}), "Overlength!");
-    EXPECT_EQ(ComposeSimultaneousRow(u"1/2 1 sqrt(2)"), R"(\frac{1}{2}X_1+X_2=sqrt2)");
+    EXPECT_EQ(ComposeSimultaneousRow(u"1/2 1 sqrt(2)"), R"(\frac{1}{2}X_1+X_2=\sqrt{2})");
     EXPECT_EQ(ComposeSimultaneousRow(u"  "), "");
 }
 

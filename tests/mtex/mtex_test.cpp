@@ -33,8 +33,11 @@ TEST(TexGuard, LetsMathematicsPassAndNothingElse) {
     }
     EXPECT_TRUE(IsHarmlessTex(std::string(8191, 'x')));
     EXPECT_FALSE(IsHarmlessTex(std::string(8192, 'x')));
-    EXPECT_EQ(PreparedTex(R"(\sin x+sin\left(2 exp 3\right)+sin2)"),
-              R"(\nosmash \sin x+{sin}\left(2 {exp} 3\right)+sin2)");
+    EXPECT_EQ(PreparedTex(R"(\sin x+sin\left(2 exp 3\right)+asinh)"),
+              R"(\nosmash \sin x+\sin \left(2 \exp  3\right)+asinh)");
+    EXPECT_EQ(PreparedTex(R"(sqrt\left( sqrt\left( x \right)+(1) \right)y)"),
+              R"(\nosmash \sqrt { \sqrt { x }+(1) }y)");
+    EXPECT_EQ(PreparedTex(R"(sqrt\left( x)"), R"(\nosmash \sqrt \left( x)");
 }
 
 TEST(ChildProcess, KeepsItsLimits) {
