@@ -46,6 +46,11 @@ bool ParseMixedFraction(std::u16string_view text, Rational& rational) {
 }
 
 bool DoubleToRational(double x, Rational& rational) {
+    if (FitsIn32Bits(x) && x == std::trunc(x)) {
+        // What the text would say.
+        rational = {static_cast<std::int32_t>(x), 1};
+        return true;
+    }
     return std::isfinite(x) && ParseMixedFraction(DoubleToMixedFraction(x, kLargestDenominator), rational);
 }
 

@@ -1,9 +1,10 @@
 #include "equations/surd.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
-#include "engine/bound_expression.h"
+#include "engine/text_fold.h"
 #include "equations/coefficient_line.h"
 
 namespace quorix {
@@ -44,6 +45,17 @@ std::u16string TopText(std::u16string_view text, std::u16string_view& bottom) {
     return top.append(fraction.substr(0, slash));
 }
 
+/// Value of a text of the engine; digits alone are read as they stand.
+double IntegerValue(std::u16string_view text) {
+    constexpr std::size_t kExactDigits = 15;
+    if (text.empty() || text.size() > kExactDigits || !std::ranges::all_of(text, IsDigit)) {
+        return CoefficientValue(text);
+    }
+    double value = 0.0;
+    for (const char16_t digit : text) value = value * 10.0 + (digit - u'0');
+    return value;
+}
+
 bool IsWholeOf32Bits(double value) {
     return value >= 0.0 && value <= std::numeric_limits<std::uint32_t>::max() &&
            value - std::trunc(value) <= kNearInteger;
@@ -53,7 +65,7 @@ bool IsWholeOf32Bits(double value) {
 
 Surd SimplifySurd(std::u16string_view text) {
     std::u16string_view bottomText;
-    const double top = CoefficientValue(TopText(text, bottomText));
+    const double top = IntegerValue(TopText(text, bottomText));
     if (!IsWholeOf32Bits(top)) {
         std::u16string sum(text);
         if (const std::size_t blank = sum.find(u' '); blank != sum.npos) sum[blank] = u'+';
@@ -62,7 +74,7 @@ Surd SimplifySurd(std::u16string_view text) {
     const SquareSplit over = SplitSquare(static_cast<std::int64_t>(top));
     if (over.inner == 0) return {u"0", {1, 1}};
     SquareSplit under;
-    if (!bottomText.empty()) under = SplitSquare(static_cast<std::int64_t>(CoefficientValue(bottomText)));
+    if (!bottomText.empty()) under = SplitSquare(static_cast<std::int64_t>(IntegerValue(bottomText)));
     std::u16string inner = u"sqrt(" + Text(over.inner);
     if (under.inner > 1) inner += u'/' + Text(under.inner);
     return {inner + u")", {static_cast<std::int32_t>(over.outer), static_cast<std::int32_t>(under.outer)}};
