@@ -2,7 +2,7 @@
 
 # What building and running the program needs.
 QUORIX_RUN_PACKAGES="g++ cmake ninja-build ccache pkg-config qt6-base-dev qt6-multimedia-dev libgl-dev libpng-dev
-  zlib1g-dev libedit-dev fonts-roboto-unhinted fonts-dejavu-core"
+  zlib1g-dev libgif-dev libedit-dev mimetex fonts-roboto-unhinted fonts-dejavu-core"
 # What the tests and checks need besides.
 QUORIX_TEST_PACKAGES="libgtest-dev libgmock-dev libbenchmark-dev libmpfr-dev libgmp-dev libmpc-dev libeigen3-dev
   libmuparser-dev clang clang-format libclang-rt-14-dev"

@@ -5,6 +5,7 @@
 #include <cstdio>
 
 #include "console/batch_run.h"
+#include "console/console_tasks.h"
 #include "console/prompt.h"
 
 namespace quorix {
@@ -36,6 +37,12 @@ int RunConsole(std::span<const std::string_view> arguments) {
     if (options.showHelp || options.showVersion) {
         Print(stdout, options.showHelp ? HelpText() : VersionText());
         return EXIT_GOOD;
+    }
+    if (options.task != ConsoleTask::calculate) {
+        std::string output;
+        const bool succeeded = RunTask(options, output);
+        Print(stdout, output);
+        return succeeded ? EXIT_GOOD : EXIT_EXPRESSION;
     }
     ConsoleSession session(options);
     if (options.expression) return RunExpression(session, *options.expression);

@@ -47,6 +47,12 @@ bool ParseDigits(std::string_view text, int& digits) {
     return true;
 }
 
+bool SetTask(ConsoleOptions& options, ConsoleTask task, std::string_view text) {
+    options.task = task;
+    options.taskText = text;
+    return true;
+}
+
 using Setter = bool (*)(ConsoleOptions& options, std::string_view value);
 
 struct OptionRow {
@@ -78,6 +84,16 @@ constexpr auto kValueOptions = std::to_array<OptionRow>({
      }},
     {"--digits", [](ConsoleOptions& options,
                     std::string_view value) { return ParseDigits(value, options.result.digits); }},
+    {"--solve", [](ConsoleOptions& options,
+                   std::string_view value) { return SetTask(options, ConsoleTask::solve, value); }},
+    {"--tex", [](ConsoleOptions& options,
+                 std::string_view value) { return SetTask(options, ConsoleTask::tex, value); }},
+    {"--picture",
+     [](ConsoleOptions& options, std::string_view value) {
+         options.task = ConsoleTask::picture;
+         options.pictureFile = value;
+         return !value.empty();
+     }},
 });
 
 class Parser {
@@ -171,6 +187,11 @@ rank, eigl, eigv, diag, orth, tri or solve; in it + - * / are the only others.
   --locale us|uk|european    decimal sign and separators (us); in european the
                              decimal sign is "," and arguments part at ";"
   --digits N                 digits of the result behind the point, to 99 (32)
+  --solve COEFFICIENTS       roots of a polynomial of degree 1 to 4, highest power
+                             first: '1 -3 2'; of linear equations, which part at
+                             ";", with the right-hand side last: '2 1 5; 1 -1 1'
+  --tex EXPRESSION           the expression as TeX
+  --picture FILE EXPRESSION  the expression typeset, as a PNG file
   --help, --version          this text, the version
   --                         ends the options: quorix-calc -- '--help'
 

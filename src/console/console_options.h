@@ -12,11 +12,19 @@
 
 namespace quorix {
 
+/// What is done instead of calculating lines.
+enum class ConsoleTask { calculate, solve, tex, picture };
+
 struct ConsoleOptions {
     std::int32_t angleUnit = UNIT_DEGREES;
     ResultSettings result;
     /// UTF-8; none means to read lines.
     std::optional<std::string> expression;
+    ConsoleTask task = ConsoleTask::calculate;
+    /// UTF-8: the coefficients to solve, or the expression to translate.
+    std::string taskText;
+    /// UTF-8: the file that a picture goes to.
+    std::string pictureFile;
     bool showHelp = false;
     bool showVersion = false;
 };

@@ -68,6 +68,16 @@ std::size_t ClosingParenthesis(std::string_view text, std::size_t open) {
     return std::string_view::npos;
 }
 
+/// Groups that are open at the end of a text: a cut must close them.
+std::size_t OpenBraces(std::string_view text) {
+    std::size_t depth = 0;
+    for (const char c : text) {
+        if (c == '{') ++depth;
+        if (c == '}' && depth > 0) --depth;
+    }
+    return depth;
+}
+
 void Translate(std::string& text, int depth);
 
 /// Goes over the calls from the outside inward. What is put in is translated already and is passed over; the
@@ -85,7 +95,8 @@ void TranslateCalls(std::string& text, int depth) {
         const std::size_t close = ClosingParenthesis(text, call->open);
         if (close == text.npos) {
             text.resize(call->start);
-            text.append(OpenCallToTeX(call->row));
+            text.append(OpenCallToTeX(call->row))
+                .append(OpenBraces(std::string_view(text).substr(0, call->start)), '}');
             return;
         }
         const std::string_view arguments =

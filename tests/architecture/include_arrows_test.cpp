@@ -18,6 +18,7 @@ const std::map<std::string, std::set<std::string>> kArrows = {
     {"numerics", {}},
     {"platform", {}},
     {"engine", {"numerics"}},
+    {"mtex", {"platform"}},
     {"matrix", {"numerics", "engine", "platform"}},
     {"equations", {"numerics", "engine", "matrix", "platform"}},
     {"reference", {"numerics", "engine", "platform"}},

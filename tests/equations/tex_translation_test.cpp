@@ -63,6 +63,7 @@ TEST(TexTranslation, HalfTypedCallsBecomePlaceholders) {
         {"gcd(1+RT(2,", R"(gcd\left(?\right))"},
         {"avg(1", R"(\displaystyle\frac{\sum_{n=1}^{N}{X[n]}}{N})"},
         {"3+pmt(1", "3+"},
+        {"1/ncr(5", R"(\frac{1}{C\left(?\right)})"},
         {"(1+2", R"(\left( 1+2)"},
     });
 }
