@@ -6,17 +6,31 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "engine/calc_context.h"
 #include "engine/result_text.h"
 
 namespace quorix {
 
+/// A view of a graph: its middle, and the pixels of a unit.
+struct PlotWindow {
+    int centreX = 0;
+    int centreY = 0;
+    int unitX = 20;
+    int unitY = 10;
+};
+
 struct ConsoleOptions {
     std::int32_t angleUnit = UNIT_DEGREES;
     ResultSettings result;
     /// UTF-8; none means to read lines.
     std::optional<std::string> expression;
+    /// The same, argument by argument.
+    std::vector<std::string> arguments;
+    /// File for a graph, and the view that it shows.
+    std::optional<std::string> plotFile;
+    PlotWindow plot;
     bool showHelp = false;
     bool showVersion = false;
 };

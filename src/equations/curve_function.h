@@ -1,0 +1,34 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "engine/eval_double.h"
+
+namespace quorix {
+
+/// The function behind a curve, compiled once, at many points. No evaluation leaves a code in calcError.
+class CurveFunction {
+  public:
+    /// text: engine notation. Roots and the other named functions are expanded here, once; they cannot depend
+    /// on the variable unless they are roots. A text that is no expression gives a function that fails
+    /// everywhere.
+    CurveFunction(std::u16string_view text, std::u16string_view variableName);
+
+    /// The value, which may be infinite or not a number; nothing where the evaluation fails or the imaginary
+    /// part exceeds 1e-8.
+    std::optional<double> At(double x);
+    /// The text that is evaluated.
+    [[nodiscard]] const std::u16string& Text() const { return text_; }
+    /// How often At has been called.
+    [[nodiscard]] std::uint64_t Evaluations() const { return evaluations_; }
+
+  private:
+    std::u16string text_;
+    DoubleSampler sampler_;
+    std::uint64_t evaluations_ = 0;
+};
+
+}  // namespace quorix
