@@ -1,14 +1,10 @@
 #include "equations/curve_function.h"
 
-#include <cmath>
-
 #include "engine/calc_context.h"
 #include "engine/named_functions.h"
 
 namespace quorix {
 namespace {
-
-constexpr double kImaginaryTolerance = 1e-8;
 
 // Empty when a named function fails; the sampler refuses an empty text.
 std::u16string Prepared(std::u16string_view text) {
@@ -26,15 +22,8 @@ CurveFunction::CurveFunction(std::u16string_view text, std::u16string_view varia
     ClearCalcError();
 }
 
-std::optional<double> CurveFunction::At(double x) {
-    ++evaluations_;
-    const std::optional<DComplex> value = sampler_.At(x);
-    if (!value) {
-        ClearCalcError();
-        return std::nullopt;
-    }
-    if (std::fabs(value->im) > kImaginaryTolerance) return std::nullopt;
-    return value->re;
+void CurveFunction::ClearError(bool hasValue) {
+    if (!hasValue) ClearCalcError();
 }
 
 }  // namespace quorix

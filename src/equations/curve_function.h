@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cmath>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -19,13 +20,24 @@ class CurveFunction {
 
     /// The value, which may be infinite or not a number; nothing where the evaluation fails or the imaginary
     /// part exceeds 1e-8.
-    std::optional<double> At(double x);
+    std::optional<double> At(double x) {
+        ++evaluations_;
+        const std::optional<DComplex> value = sampler_.At(x);
+        if (value && std::fabs(value->im) <= kImaginaryTolerance) return value->re;
+        ClearError(value.has_value());
+        return std::nullopt;
+    }
     /// The text that is evaluated.
     [[nodiscard]] const std::u16string& Text() const { return text_; }
     /// How often At has been called.
     [[nodiscard]] std::uint64_t Evaluations() const { return evaluations_; }
 
   private:
+    static constexpr double kImaginaryTolerance = 1e-8;
+
+    // Off the way of good samples.
+    static void ClearError(bool hasValue);
+
     std::u16string text_;
     DoubleSampler sampler_;
     std::uint64_t evaluations_ = 0;

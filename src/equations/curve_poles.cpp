@@ -116,12 +116,27 @@ void MarkPoleAbout(GraphCurve& curve, std::size_t turn) {
     curve.isBehindPole[search.Place() > x[turn] ? turn + 1 : turn] = true;
 }
 
-bool IsTurn(const GraphCurve& curve, std::size_t index) {
-    const auto& x = curve.xValues;
+bool AreNeighbours(const GraphCurve& curve, std::size_t left) {
+    return curve.xValues[left + 1] - curve.xValues[left] <= kSampleStep * 1.5;
+}
+
+// A smooth curve flattens towards its turn; towards a pole the differences grow. The flatter side tells, as a
+// jump from one infinity to the other may be on the steeper one.
+bool SteepensTowards(const GraphCurve& curve, std::size_t turn) {
     const auto& y = curve.yValues;
-    return x[index + 1] - x[index - 1] <= kSampleStep * 2.5 && std::isfinite(y[index - 1]) &&
-           std::isfinite(y[index + 1]) && !curve.isBehindPole[index] && !curve.isBehindPole[index + 1] &&
-           TurnOf(y[index] - y[index - 1], y[index], y[index + 1]) == GraphTurn::extremum;
+    const double before = std::fabs(y[turn] - y[turn - 1]);
+    const double after = std::fabs(y[turn + 1] - y[turn]);
+    if (before <= after) {
+        return turn < 2 || !AreNeighbours(curve, turn - 2) || before >= std::fabs(y[turn - 1] - y[turn - 2]);
+    }
+    return turn + 2 >= static_cast<std::size_t>(curve.pointCount) || !AreNeighbours(curve, turn + 1) ||
+           after >= std::fabs(y[turn + 2] - y[turn + 1]);
+}
+
+bool MayHoldPole(const GraphCurve& curve, std::size_t turn) {
+    return AreNeighbours(curve, turn - 1) && AreNeighbours(curve, turn) &&
+           std::isfinite(curve.yValues[turn - 1]) && std::isfinite(curve.yValues[turn + 1]) &&
+           !curve.isBehindPole[turn] && !curve.isBehindPole[turn + 1] && SteepensTowards(curve, turn);
 }
 
 }  // namespace
@@ -136,8 +151,17 @@ void MarkPoles(GraphCurve& curve, std::size_t from, std::size_t to) {
     const auto count = static_cast<std::size_t>(curve.pointCount);
     // The samples at the ends of the range may be turns only now that they have neighbours.
     const std::size_t first = std::max<std::size_t>(from, 2) - 1;
+    if (first >= to || first + 1 >= count) return;
+    const auto& y = curve.yValues;
+    double before = y[first] - y[first - 1];
     for (std::size_t i = first; i < to && i + 1 < count; ++i) {
-        if (IsTurn(curve, i)) MarkPoleAbout(curve, i);
+        const double after = y[i + 1] - y[i];
+        // Most samples are no turns.
+        if (before * after < 0 && TurnOf(before, y[i], y[i + 1]) == GraphTurn::extremum &&
+            MayHoldPole(curve, i)) {
+            MarkPoleAbout(curve, i);
+        }
+        before = after;
     }
 }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <optional>
+#include <span>
 
 #include "equations/curve_poles.h"
 
@@ -19,15 +20,18 @@ struct Sample {
     double y;
 };
 
-/// Samples in the order in which they are taken, away from the curve's end.
+/// Room for samples in the order in which they are taken, away from the curve's end.
 struct Strip {
-    std::array<Sample, kMostSamples> samples;
+    std::span<double> xValues;
+    std::span<double> yValues;
     std::size_t count = 0;
-    std::size_t room;
 
-    [[nodiscard]] bool IsFull() const { return count >= room; }
+    [[nodiscard]] bool IsFull() const { return count >= xValues.size(); }
     void Append(Sample sample) {
-        if (!IsFull()) samples[count++] = sample;
+        if (IsFull()) return;
+        xValues[count] = sample.x;
+        yValues[count] = sample.y;
+        ++count;
     }
 };
 
@@ -50,35 +54,60 @@ Sample Edge(CurveFunction& function, Sample good, double bad) {
 class Walk {
   public:
     /// step: kSampleStep to the right, -kSampleStep to the left. last: the sample at that end, if any.
-    Walk(CurveFunction& function, CurveEnd& end, double step, std::optional<Sample> last, std::size_t room)
-        : function_(function), end_(end), step_(step), last_(last) {
-        strip_.room = room;
-    }
+    Walk(CurveFunction& function, CurveEnd& end, double step, std::optional<Sample> last, Strip room)
+        : function_(function), end_(end), step_(step), last_(last), strip_(room) {}
 
-    const Strip& To(double limit) {
-        // Far from 0 the step may be lost in the abscissa.
-        while (!strip_.IsFull() && (step_ > 0 ? end_.next <= limit : end_.next >= limit) &&
-               end_.next + step_ != end_.next) {
-            if (const std::optional<double> y = function_.At(end_.next)) {
-                TakeGood({end_.next, *y});
+    /// The number of samples taken.
+    std::size_t To(double limit) {
+        // Far from 0 the step would be lost in the abscissa.
+        if (end_.next + step_ == end_.next || limit + step_ == limit) return 0;
+        while (IsOnTheWay(end_.next, limit) && !strip_.IsFull()) {
+            if (!end_.isHole) {
+                RunWhileGood(limit);
+            } else if (const std::optional<double> y = function_.At(end_.next)) {
+                LeaveHole({end_.next, *y});
             } else {
-                TakeBad();
+                end_.next += step_;
             }
         }
-        return strip_;
+        return strip_.count;
     }
 
   private:
+    [[nodiscard]] bool IsOnTheWay(double x, double limit) const {
+        return step_ > 0 ? x <= limit : x >= limit;
+    }
+
+    void RunWhileGood(double limit) {
+        const std::size_t room = strip_.xValues.size();
+        std::size_t count = strip_.count;
+        double x = end_.next;
+        bool isGood = true;
+        while (IsOnTheWay(x, limit) && count < room) {
+            const std::optional<double> y = function_.At(x);
+            isGood = y.has_value();
+            if (!isGood) break;
+            strip_.xValues[count] = x;
+            strip_.yValues[count] = *y;
+            ++count;
+            x += step_;
+        }
+        if (count > strip_.count) last_ = {strip_.xValues[count - 1], strip_.yValues[count - 1]};
+        strip_.count = count;
+        end_.next = x;
+        if (!isGood) EnterHole();
+    }
+
     // Seen from the left, the first good point is where the curve starts, edge or not; to the left of a
     // known bad abscissa a good one is the end of what comes from there.
-    void TakeGood(Sample sample) {
-        if (end_.isHole && (last_ || step_ < 0)) sample = Edge(function_, sample, sample.x - step_);
+    void LeaveHole(Sample sample) {
+        if (last_ || step_ < 0) sample = Edge(function_, sample, sample.x - step_);
         Store(sample);
         end_ = {sample.x + step_, false};
     }
 
-    void TakeBad() {
-        if (!end_.isHole && last_) {
+    void EnterHole() {
+        if (last_) {
             const Sample edge = Edge(function_, *last_, end_.next);
             if (std::fabs(edge.x - last_->x) > kEdgeWidth) Store(edge);
         }
@@ -150,35 +179,31 @@ void DropLeft(GraphCurve& curve, std::size_t dropped, double cut) {
 void ExtendRight(GraphCurve& curve, double to) {
     const std::size_t count = CountOf(curve);
     const std::optional<Sample> last = count > 0 ? SampleAt(curve, count - 1) : std::nullopt;
-    Walk walk(*curve.function, curve.right, kSampleStep, last, kMostSamples - count);
-    const Strip& strip = walk.To(to);
-    for (std::size_t i = 0; i < strip.count; ++i) {
-        curve.xValues[count + i] = strip.samples[i].x;
-        curve.yValues[count + i] = strip.samples[i].y;
-        curve.isBehindPole[count + i] = false;
-    }
-    curve.pointCount = static_cast<std::int32_t>(count + strip.count);
-    if (strip.count > 0) MarkPoles(curve, count, count + strip.count);
+    const Strip room{std::span(curve.xValues).subspan(count), std::span(curve.yValues).subspan(count)};
+    const std::size_t added = Walk(*curve.function, curve.right, kSampleStep, last, room).To(to);
+    if (added == 0) return;
+    std::fill_n(curve.isBehindPole.begin() + curve.pointCount, added, false);
+    curve.pointCount += static_cast<std::int32_t>(added);
+    MarkPoles(curve, count, count + added);
 }
 
 void ExtendLeft(GraphCurve& curve, double from) {
-    Walk walk(*curve.function, curve.left, -kSampleStep, SampleAt(curve, 0), kMostSamples);
-    const Strip& strip = walk.To(from);
-    if (strip.count == 0) return;
-    const std::size_t room = static_cast<std::size_t>(kMostSamples) - strip.count;
-    const std::size_t kept = std::min(room, CountOf(curve));
+    std::array<double, kMostSamples> xValues;
+    std::array<double, kMostSamples> yValues;
+    const std::size_t added =
+        Walk(*curve.function, curve.left, -kSampleStep, SampleAt(curve, 0), {xValues, yValues}).To(from);
+    if (added == 0) return;
+    const std::size_t kept = std::min(static_cast<std::size_t>(kMostSamples) - added, CountOf(curve));
     const bool isCut = kept < CountOf(curve);
-    MoveSamples(curve, 0, kept, strip.count);
-    for (std::size_t i = 0; i < strip.count; ++i) {
-        const Sample& sample = strip.samples[strip.count - 1 - i];
-        curve.xValues[i] = sample.x;
-        curve.yValues[i] = sample.y;
-        curve.isBehindPole[i] = false;
-    }
-    if (kept > 0) curve.isBehindPole[strip.count] = false;
-    curve.pointCount = static_cast<std::int32_t>(strip.count + kept);
+    MoveSamples(curve, 0, kept, added);
+    std::reverse_copy(xValues.begin(), xValues.begin() + static_cast<std::ptrdiff_t>(added),
+                      curve.xValues.begin());
+    std::reverse_copy(yValues.begin(), yValues.begin() + static_cast<std::ptrdiff_t>(added),
+                      curve.yValues.begin());
+    std::fill_n(curve.isBehindPole.begin(), std::min<std::size_t>(added + 1, kMostSamples), false);
+    curve.pointCount = static_cast<std::int32_t>(added + kept);
     if (isCut) curve.right = {curve.xValues[CountOf(curve) - 1] + kSampleStep, false};
-    MarkPoles(curve, 0, strip.count + 1);
+    MarkPoles(curve, 0, added + 1);
 }
 
 }  // namespace
