@@ -6,6 +6,7 @@
 
 #include "console/batch_run.h"
 #include "console/console_tasks.h"
+#include "console/plot_run.h"
 #include "console/prompt.h"
 
 namespace quorix {
@@ -45,6 +46,11 @@ int RunConsole(std::span<const std::string_view> arguments) {
         return succeeded ? EXIT_GOOD : EXIT_EXPRESSION;
     }
     ConsoleSession session(options);
+    if (options.plotFile) {
+        const PlotOutcome outcome = RunPlot(session, options);
+        Print(stderr, outcome.messages);
+        return outcome.succeeded ? EXIT_GOOD : EXIT_EXPRESSION;
+    }
     if (options.expression) return RunExpression(session, *options.expression);
     if (isatty(STDIN_FILENO) != 0) {
         RunPrompt(session);

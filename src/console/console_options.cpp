@@ -4,10 +4,13 @@
 #include <array>
 #include <charconv>
 
+#include "equations/graph_view.h"
+
 namespace quorix {
 namespace {
 
 constexpr int kMaxDigits = 99;
+constexpr int kFarthestCentre = 1'000'000;
 
 struct NamedValue {
     std::string_view name;
@@ -36,14 +39,13 @@ bool FindValue(std::span<const NamedValue> values, std::string_view name, std::i
     return true;
 }
 
-bool ParseDigits(std::string_view text, int& digits) {
-    int value = 0;
-    const auto parsed = std::from_chars(text.data(), text.data() + text.size(), value);
-    if (parsed.ec != std::errc() || parsed.ptr != text.data() + text.size() || value < 0 ||
-        value > kMaxDigits) {
+bool ParseInteger(std::string_view text, int least, int most, int& value) {
+    int read = 0;
+    const auto parsed = std::from_chars(text.data(), text.data() + text.size(), read);
+    if (parsed.ec != std::errc() || parsed.ptr != text.data() + text.size() || read < least || read > most) {
         return false;
     }
-    digits = value;
+    value = read;
     return true;
 }
 
@@ -51,6 +53,17 @@ bool SetTask(ConsoleOptions& options, ConsoleTask task, std::string_view text) {
     options.task = task;
     options.taskText = text;
     return true;
+}
+
+bool ParseDigits(std::string_view text, int& digits) {
+    return ParseInteger(text, 0, kMaxDigits, digits);
+}
+
+// "X,Y".
+bool ParsePair(std::string_view text, int least, int most, int& x, int& y) {
+    const std::size_t comma = text.find(',');
+    return comma != std::string_view::npos && ParseInteger(text.substr(0, comma), least, most, x) &&
+           ParseInteger(text.substr(comma + 1), least, most, y);
 }
 
 using Setter = bool (*)(ConsoleOptions& options, std::string_view value);
@@ -81,6 +94,20 @@ constexpr auto kValueOptions = std::to_array<OptionRow>({
          if (found == kLocales.end()) return false;
          options.result.numberLocale = found->numberLocale;
          return true;
+     }},
+    {"--plot",
+     [](ConsoleOptions& options, std::string_view value) {
+         options.plotFile = value;
+         return !value.empty();
+     }},
+    {"--centre",
+     [](ConsoleOptions& options, std::string_view value) {
+         return ParsePair(value, -kFarthestCentre, kFarthestCentre, options.plot.centreX,
+                          options.plot.centreY);
+     }},
+    {"--units",
+     [](ConsoleOptions& options, std::string_view value) {
+         return ParsePair(value, kSmallestUnit, kLargestUnit, options.plot.unitX, options.plot.unitY);
      }},
     {"--digits", [](ConsoleOptions& options,
                     std::string_view value) { return ParseDigits(value, options.result.digits); }},
@@ -117,6 +144,7 @@ class Parser {
 
   private:
     void AppendExpression(std::string_view argument) {
+        result_.options.arguments.emplace_back(argument);
         std::optional<std::string>& expression = result_.options.expression;
         if (expression) {
             expression->append(" ").append(argument);
@@ -192,6 +220,10 @@ rank, eigl, eigv, diag, orth, tri or solve; in it + - * / are the only others.
                              ";", with the right-hand side last: '2 1 5; 1 -1 1'
   --tex EXPRESSION           the expression as TeX
   --picture FILE EXPRESSION  the expression typeset, as a PNG file
+  --plot FILE F...           draws graphs of the functions F of x as a picture,
+                             PNG or BMP by the ending of FILE
+  --centre X,Y               the middle of the graph (0,0)
+  --units PX,PY              pixels of its units, 8 to 96 (20,10)
   --help, --version          this text, the version
   --                         ends the options: quorix-calc -- '--help'
 

@@ -6,6 +6,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "engine/calc_context.h"
 #include "engine/result_text.h"
@@ -14,6 +15,13 @@ namespace quorix {
 
 /// What is done instead of calculating lines.
 enum class ConsoleTask { calculate, solve, tex, picture };
+/// A view of a graph: its middle, and the pixels of a unit.
+struct PlotWindow {
+    int centreX = 0;
+    int centreY = 0;
+    int unitX = 20;
+    int unitY = 10;
+};
 
 struct ConsoleOptions {
     std::int32_t angleUnit = UNIT_DEGREES;
@@ -25,6 +33,11 @@ struct ConsoleOptions {
     std::string taskText;
     /// UTF-8: the file that a picture goes to.
     std::string pictureFile;
+    /// The same, argument by argument.
+    std::vector<std::string> arguments;
+    /// File for a graph, and the view that it shows.
+    std::optional<std::string> plotFile;
+    PlotWindow plot;
     bool showHelp = false;
     bool showVersion = false;
 };

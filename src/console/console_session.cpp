@@ -72,6 +72,12 @@ std::optional<CalcValue> ConsoleSession::Compute(std::u16string_view displayText
     return value;
 }
 
+std::optional<std::u16string> ConsoleSession::EngineText(std::string_view text) const {
+    std::u16string wide = FromUtf8(text);
+    TakeTerminalSigns(wide, DecimalSign());
+    return ToEngineText(wide, options_.result.numberLocale, 10);
+}
+
 std::optional<CalcValue> ConsoleSession::Assign(const Assignment& assignment) {
     if (assignment.slot < 0) {
         error_ = ToUtf8(assignment.name) + " cannot be set; variables are [VA] to [VZ], and LIST";

@@ -21,6 +21,9 @@ class ConsoleSession {
     /// SetMatrixOperators.
     bool Evaluate(std::string_view line, std::string& output);
 
+    /// A text in display notation as the engine takes it, radix 10; nothing when it is too long.
+    [[nodiscard]] std::optional<std::u16string> EngineText(std::string_view text) const;
+
   private:
     // Each gives nothing when it fails; what is wrong stands in error_, or a code in calcError.
     std::optional<CalcValue> Compute(std::u16string_view displayText);

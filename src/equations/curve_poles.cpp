@@ -1,0 +1,168 @@
+#include "equations/curve_poles.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+#include "equations/curve_sampling.h"
+
+namespace quorix {
+namespace {
+
+constexpr double kLargestJump = 32;
+// Golden section: each evaluation keeps 0.618 of the interval.
+constexpr double kGolden = 0.6180339887498949;
+constexpr int kShortSearch = 5;
+constexpr int kLongSearch = 15;
+
+/// Samples either side of the turn, in the order of the search, which starts where the curve rises to it.
+struct TurnPoints {
+    double startX;
+    double startHeight;
+    double endX;
+    double topHeight;
+};
+
+/// Follows the greatest height between two abscissas by golden section. At a pole it grows by no less with
+/// each round, as the interval shrinks; at the top of a smooth curve or at a cusp the growth dies away.
+class PoleSearch {
+  public:
+    PoleSearch(CurveFunction& function, double sign, const TurnPoints& points)
+        : function_(function),
+          sign_(sign),
+          start_(points.startX),
+          end_(points.endX),
+          floor_(points.startHeight),
+          best_(points.topHeight) {
+        innerX_ = InnerX();
+        outerX_ = OuterX();
+        inner_ = HeightAt(innerX_);
+        outer_ = HeightAt(outerX_);
+    }
+
+    bool FindsPole() { return Grows(kShortSearch) && Grows(kLongSearch); }
+    /// Where the pole is, once found.
+    [[nodiscard]] double Place() const { return (start_ + end_) * 0.5; }
+
+  private:
+    // Whether the second of two runs gains as much as the first; half of it leaves room for logarithms, whose
+    // steps are uneven.
+    bool Grows(int rounds) {
+        const double before = best_;
+        Run(rounds);
+        const double middle = best_;
+        Run(rounds);
+        return best_ > middle && best_ - middle >= (middle - before) * 0.5;
+    }
+
+    void Run(int rounds) {
+        for (int i = 0; i < rounds; ++i) Round();
+    }
+
+    // Left of the top the height stays above the floor. Whatever is lower lies behind the top, or behind the
+    // pole, from where the curve comes back from the other infinity.
+    void Round() {
+        if (inner_ >= floor_ && inner_ < outer_) {
+            start_ = innerX_;
+            floor_ = inner_;
+            innerX_ = outerX_;
+            inner_ = outer_;
+            outerX_ = OuterX();
+            outer_ = HeightAt(outerX_);
+        } else {
+            end_ = outerX_;
+            outerX_ = innerX_;
+            outer_ = inner_;
+            innerX_ = InnerX();
+            inner_ = HeightAt(innerX_);
+        }
+    }
+
+    [[nodiscard]] double InnerX() const { return end_ - (end_ - start_) * kGolden; }
+    [[nodiscard]] double OuterX() const { return start_ + (end_ - start_) * kGolden; }
+
+    double HeightAt(double x) {
+        const std::optional<double> y = function_.At(x);
+        if (!y || std::isnan(*y)) return -std::numeric_limits<double>::infinity();
+        const double height = *y * sign_;
+        best_ = std::max(best_, height);
+        return height;
+    }
+
+    CurveFunction& function_;
+    double sign_;
+    double start_;
+    double end_;
+    double floor_;
+    double best_;
+    double innerX_ = 0.0;
+    double outerX_ = 0.0;
+    double inner_ = 0.0;
+    double outer_ = 0.0;
+};
+
+// The search starts on the flatter side: a jump from one infinity to the other is the steeper one.
+void MarkPoleAbout(GraphCurve& curve, std::size_t turn) {
+    const auto& x = curve.xValues;
+    const auto& y = curve.yValues;
+    const double before = y[turn] - y[turn - 1];
+    const double after = y[turn + 1] - y[turn];
+    const double sign = before > 0 ? 1.0 : -1.0;
+    const bool isForward = std::fabs(after) >= std::fabs(before);
+    const std::size_t start = isForward ? turn - 1 : turn + 1;
+    const std::size_t end = isForward ? turn + 1 : turn - 1;
+    PoleSearch search(*curve.function, sign, {x[start], y[start] * sign, x[end], y[turn] * sign});
+    if (!search.FindsPole()) return;
+    curve.isBehindPole[search.Place() > x[turn] ? turn + 1 : turn] = true;
+}
+
+bool AreNeighbours(const GraphCurve& curve, std::size_t left) {
+    return curve.xValues[left + 1] - curve.xValues[left] <= kSampleStep * 1.5;
+}
+
+// A smooth curve flattens towards its turn; towards a pole the differences grow. The flatter side tells, as a
+// jump from one infinity to the other may be on the steeper one.
+bool SteepensTowards(const GraphCurve& curve, std::size_t turn) {
+    const auto& y = curve.yValues;
+    const double before = std::fabs(y[turn] - y[turn - 1]);
+    const double after = std::fabs(y[turn + 1] - y[turn]);
+    if (before <= after) {
+        return turn < 2 || !AreNeighbours(curve, turn - 2) || before >= std::fabs(y[turn - 1] - y[turn - 2]);
+    }
+    return turn + 2 >= static_cast<std::size_t>(curve.pointCount) || !AreNeighbours(curve, turn + 1) ||
+           after >= std::fabs(y[turn + 2] - y[turn + 1]);
+}
+
+bool MayHoldPole(const GraphCurve& curve, std::size_t turn) {
+    return AreNeighbours(curve, turn - 1) && AreNeighbours(curve, turn) &&
+           std::isfinite(curve.yValues[turn - 1]) && std::isfinite(curve.yValues[turn + 1]) &&
+           !curve.isBehindPole[turn] && !curve.isBehindPole[turn + 1] && SteepensTowards(curve, turn);
+}
+
+}  // namespace
+
+GraphTurn TurnOf(double slope, double before, double after) {
+    if (!((slope < 0 && before < after) || (slope > 0 && before > after))) return GraphTurn::none;
+    const bool isJump = std::fabs(after - before) > kLargestJump * std::fabs(slope);
+    return isJump || before * after < 0 ? GraphTurn::suppressed : GraphTurn::extremum;
+}
+
+void MarkPoles(GraphCurve& curve, std::size_t from, std::size_t to) {
+    const auto count = static_cast<std::size_t>(curve.pointCount);
+    // The samples at the ends of the range may be turns only now that they have neighbours.
+    const std::size_t first = std::max<std::size_t>(from, 2) - 1;
+    if (first >= to || first + 1 >= count) return;
+    const auto& y = curve.yValues;
+    double before = y[first] - y[first - 1];
+    for (std::size_t i = first; i < to && i + 1 < count; ++i) {
+        const double after = y[i + 1] - y[i];
+        // Most samples are no turns.
+        if (before * after < 0 && TurnOf(before, y[i], y[i + 1]) == GraphTurn::extremum &&
+            MayHoldPole(curve, i)) {
+            MarkPoleAbout(curve, i);
+        }
+        before = after;
+    }
+}
+
+}  // namespace quorix
