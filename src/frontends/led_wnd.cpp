@@ -8,7 +8,6 @@
 #include <cstdlib>
 
 #include "frontends/context_menu.h"
-#include "platform/qt/popup_menu.h"
 
 namespace quorix {
 
@@ -145,7 +144,7 @@ void LedWnd::OpenContextMenu(QPoint globalPosition) {
         return;
     }
     menuOpened_ = true;
-    QMenu* const menu = NewPopupMenu(this, Scale() * Zoom());
+    QMenu* const menu = NewPopupMenu(this, Scale() * Zoom(), menuColours_);
     for (const ContextMenuItem& item : ContextMenuOf(*display_, clipboard_, toTex_)) {
         QAction* const action = menu->addAction(ToQString(item.text));
         action->setEnabled(item.enabled);
