@@ -2,6 +2,7 @@
 
 #include <QContextMenuEvent>
 #include <QCursor>
+#include <QGuiApplication>
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
@@ -129,7 +130,12 @@ void LedWnd::Announce() {
 
 void LedWnd::mousePressEvent(QMouseEvent* event) {
     if (event->button() == Qt::MiddleButton) {
-        PasteText();
+        QtClipboard selection = QtClipboard::Selection();
+        if (display_ != nullptr && QGuiApplication::clipboard()->supportsSelection() && selection.HasText()) {
+            PasteShortcut(*display_, selection);
+        } else {
+            PasteText();
+        }
     } else {
         WindowBase::mousePressEvent(event);
     }

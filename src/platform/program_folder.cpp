@@ -43,14 +43,27 @@ bool IsWritable(const fs::path& folder) {
     return true;
 }
 
+/// Copies what is not there yet. What comes out is the user's own, whoever may not write to the original.
+void CopyMissing(const fs::path& from, const fs::path& to) {
+    std::error_code error;
+    if (fs::is_directory(from, error)) {
+        fs::create_directory(to, error);
+        fs::permissions(to, fs::perms::owner_all, fs::perm_options::add, error);
+        for (const fs::directory_entry& entry : fs::directory_iterator(from, error)) {
+            CopyMissing(entry.path(), to / entry.path().filename());
+        }
+    } else if (fs::copy_file(from, to, fs::copy_options::skip_existing, error)) {
+        fs::permissions(to, fs::perms::owner_write, fs::perm_options::add, error);
+    }
+}
+
 }  // namespace
 
 void SeedFolder(const fs::path& installed, const fs::path& folder) {
     std::error_code error;
     for (const fs::directory_entry& entry : fs::directory_iterator(installed, error)) {
         if (IsSeeded(entry)) {
-            fs::copy(entry.path(), folder / entry.path().filename(),
-                     fs::copy_options::recursive | fs::copy_options::skip_existing, error);
+            CopyMissing(entry.path(), folder / entry.path().filename());
         }
     }
 }
