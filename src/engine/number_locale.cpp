@@ -40,6 +40,12 @@ NumberSigns SignsOf(std::u16string_view numberLocale) {
     return {u'.', kDisplayComma};
 }
 
+void ExchangeDecimalSigns(std::u16string& text) {
+    for (char16_t& c : text) {
+        c = c == u'.' ? kDisplayComma : c == kDisplayComma ? u'.' : c;
+    }
+}
+
 void ApplySeparators(std::u16string& text, std::u16string_view numberLocale, std::int32_t radixId) {
     if (radixId != RADIX_DEC || text.empty() || IsWord(text)) return;
     const NumberSigns signs = SignsOf(numberLocale);

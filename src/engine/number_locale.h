@@ -20,6 +20,9 @@ struct NumberSigns {
 /// are US.
 NumberSigns SignsOf(std::u16string_view numberLocale);
 
+/// Exchanges "." and U+00B8: display text of an English locale becomes that of the European one and back.
+void ExchangeDecimalSigns(std::u16string& text);
+
 /// Groups the digits left of the decimal point of a decimal number text and puts the locale's signs in; a
 /// text that holds a word (a message) stays as it is. `text` has the engine's "." as decimal mark.
 void ApplySeparators(std::u16string& text, std::u16string_view numberLocale, std::int32_t radixId);

@@ -157,6 +157,17 @@ void ExpressionEditor::SetCursor(int at) {
     Invalidate();
 }
 
+void ExpressionEditor::ExchangeDecimalSigns() {
+    for (auto& page : lines_) {
+        std::for_each(page.begin(), page.end(), [](TokenLine& line) { line.ExchangeDecimalSigns(); });
+    }
+    histories_ = {};
+    if (resultIsValue_) {
+        quorix::ExchangeDecimalSigns(resultText_);
+    }
+    Invalidate();
+}
+
 void ExpressionEditor::ShowInRoom(std::span<const int> tokenWidths, int room) {
     tokenWidths_.assign(tokenWidths.begin(), tokenWidths.end());
     if (room != room_) {

@@ -74,6 +74,9 @@ class ExpressionEditor {
     void ClearLine();
     /// Empties the line alone.
     void EraseLine();
+    /// The number locale has gone from English to European or back: every line and the result on show keep
+    /// their values. The histories end, their texts being of the locale before.
+    void ExchangeDecimalSigns();
     /// Puts the cursor on the token `at`, or behind the last one; others are clamped.
     void SetCursor(int at);
 

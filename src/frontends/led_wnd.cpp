@@ -2,13 +2,13 @@
 
 #include <QContextMenuEvent>
 #include <QCursor>
+#include <QGuiApplication>
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
 #include <cstdlib>
 
 #include "frontends/context_menu.h"
-#include "platform/qt/popup_menu.h"
 
 namespace quorix {
 
@@ -130,7 +130,12 @@ void LedWnd::Announce() {
 
 void LedWnd::mousePressEvent(QMouseEvent* event) {
     if (event->button() == Qt::MiddleButton) {
-        PasteText();
+        QtClipboard selection = QtClipboard::Selection();
+        if (display_ != nullptr && QGuiApplication::clipboard()->supportsSelection() && selection.HasText()) {
+            PasteShortcut(*display_, selection);
+        } else {
+            PasteText();
+        }
     } else {
         WindowBase::mousePressEvent(event);
     }
@@ -145,7 +150,7 @@ void LedWnd::OpenContextMenu(QPoint globalPosition) {
         return;
     }
     menuOpened_ = true;
-    QMenu* const menu = NewPopupMenu(this, Scale() * Zoom());
+    QMenu* const menu = NewPopupMenu(this, Scale() * Zoom(), menuColours_);
     for (const ContextMenuItem& item : ContextMenuOf(*display_, clipboard_, toTex_)) {
         QAction* const action = menu->addAction(ToQString(item.text));
         action->setEnabled(item.enabled);

@@ -5,6 +5,7 @@
 #include "frontends/clipboard_commands.h"
 #include "frontends/led_painter.h"
 #include "frontends/spoken_line_wnd.h"
+#include "platform/qt/popup_menu.h"
 #include "platform/qt/qt_clipboard.h"
 #include "platform/qt/window_base.h"
 
@@ -21,6 +22,8 @@ class LedWnd : public WindowBase, public SpokenLine {
     /// menu.
     void SetDisplay(CLedDisplay* display, int holdInterval);
     void SetFrameColours(const DisplayFrameColours& colours);
+    /// Those of the context menu.
+    void SetMenuColours(const MenuColours& colours) { menuColours_ = colours; }
     /// The file of the TeX button that suits the scale; the picture is read at the first paint.
     void SetTexButton(const std::filesystem::path& file);
     /// For "Copy as TeX", which is greyed without it.
@@ -59,6 +62,7 @@ class LedWnd : public WindowBase, public SpokenLine {
     std::filesystem::path texButton_;
     double texButtonDensity_ = 0;  ///< For which it has been loaded; 0: not yet.
     DisplayFrameColours frame_{};
+    MenuColours menuColours_;
     QtClipboard clipboard_;
     TexConverter toTex_;
 };

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "engine/calc_context.h"
+#include "engine/number_locale.h"
 #include "frontends/token_line.h"
 
 namespace quorix {
@@ -184,6 +185,12 @@ void MacroList::Store(Macro macro) {
 
 void MacroList::Remove(std::u16string_view name) {
     std::erase_if(macros_, [name](const Macro& m) { return SameName(m.name, name); });
+}
+
+void MacroList::ExchangeDecimalSigns() {
+    for (Macro& macro : macros_) {
+        quorix::ExchangeDecimalSigns(macro.expression);
+    }
 }
 
 bool MacroList::Merge(Macro macro) {

@@ -35,6 +35,8 @@ class MacroList {
     /// sorts below. Control characters go; a macro without a name is none.
     void Store(Macro macro);
     void Remove(std::u16string_view name);
+    /// The number locale has changed: the bodies, display text as they are, keep their values.
+    void ExchangeDecimalSigns();
 
     /// Adds a macro of a file. When its name is taken it gets the first free one of "Ma" to "Mz"; when none
     /// is free, or the very same macro is there already, it is dropped. False when it was dropped for want of

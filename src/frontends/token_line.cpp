@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "engine/number_locale.h"
+
 namespace quorix {
 
 namespace {
@@ -53,6 +55,10 @@ void TokenLine::Set(std::u16string_view text, std::u16string_view lengths) {
         lengths_.assign(text_.size(), u'1');
     }
     ResetPositions();
+}
+
+void TokenLine::ExchangeDecimalSigns() {
+    quorix::ExchangeDecimalSigns(text_);
 }
 
 void TokenLine::ResetPositions() {

@@ -44,6 +44,8 @@ class TokenLine {
     void Clear();
     /// Replaces everything. Lengths that do not add up to the text are cut anew into tokens of width 1.
     void Set(std::u16string_view text, std::u16string_view lengths);
+    /// The text of the other number locale; tokens and positions stay.
+    void ExchangeDecimalSigns();
     /// Cursor and view to the start, as behind an inserted result.
     void ResetPositions();
 

@@ -53,16 +53,30 @@ bool IsWritable(const fs::path& folder) {
     return true;
 }
 
+/// Copies files that are not there yet, or older ones, too. What comes out is the user's own, whoever may not
+/// write to the original.
+void CopyShipped(const fs::path& from, const fs::path& to, fs::copy_options existing) {
+    std::error_code error;
+    if (fs::is_directory(from, error)) {
+        fs::create_directory(to, error);
+        fs::permissions(to, fs::perms::owner_all, fs::perm_options::add, error);
+        for (const fs::directory_entry& entry : fs::directory_iterator(from, error)) {
+            CopyShipped(entry.path(), to / entry.path().filename(), existing);
+        }
+    } else if (fs::copy_file(from, to, existing, error)) {
+        fs::permissions(to, fs::perms::owner_write, fs::perm_options::add, error);
+    }
+}
+
 }  // namespace
 
 void SeedFolder(const fs::path& installed, const fs::path& folder) {
     std::error_code error;
     for (const fs::directory_entry& entry : fs::directory_iterator(installed, error)) {
         if (IsSeeded(entry)) {
-            const fs::copy_options kept = fs::copy_options::recursive | fs::copy_options::skip_existing;
-            const fs::copy_options replaced = fs::copy_options::recursive | fs::copy_options::update_existing;
-            fs::copy(entry.path(), folder / entry.path().filename(), IsReplaced(entry) ? replaced : kept,
-                     error);
+            CopyShipped(
+                entry.path(), folder / entry.path().filename(),
+                IsReplaced(entry) ? fs::copy_options::update_existing : fs::copy_options::skip_existing);
         }
     }
 }

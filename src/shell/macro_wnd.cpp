@@ -1,5 +1,6 @@
 #include "shell/macro_wnd.h"
 
+#include <QKeyEvent>
 #include <QPainter>
 #include <cmath>
 
@@ -68,9 +69,6 @@ MacroWnd::MacroWnd(WindowBase& frame, ModuleSite& site, int category)
     connect(remark_, &QLineEdit::textEdited, this, [this](const QString& text) {
         Site().Frame().TheMacroEditor().SetRemark(text.toStdU16String());
     });
-    for (QLineEdit* const field : {name_, remark_}) {
-        connect(field, &QLineEdit::returnPressed, &frame_, [this] { frame_.setFocus(); });
-    }
     Handle(MSG_BUTTON, [this](MessageParam id, MessageParam) {
         OnButton(static_cast<int>(id));
         return 0;
@@ -165,6 +163,16 @@ void MacroWnd::OnScaleChanged() {
 
 void MacroWnd::hideEvent(QHideEvent* /*event*/) {
     CloseLetters();
+}
+
+/// What the fields leave over: the keys that end a field are no C and no "=" for the line above it.
+void MacroWnd::keyPressEvent(QKeyEvent* event) {
+    const bool ends =
+        event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter || event->key() == Qt::Key_Escape;
+    if (ends) {
+        frame_.setFocus();
+    }
+    event->setAccepted(ends);
 }
 
 void MacroWnd::CloseLetters() {

@@ -25,6 +25,7 @@ class MacroWnd : public ModuleWnd {
     void Paint(QPainter& painter, const Rect& dirty) override;
     void OnScaleChanged() override;
     void hideEvent(QHideEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
   private:
     void Refresh();

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "engine/calc_context.h"
+#include "engine/number_locale.h"
 #include "frontends/base_conversion.h"
 #include "matrix/matrix_literal.h"
 #include "platform/files.h"
@@ -178,10 +179,14 @@ void CMainFrame::CoupleInputMode(int from, int to) {
     const bool basicFrom = from <= kLastBasicModeCategory;
     const bool basicTo = to <= kLastBasicModeCategory;
     if (basicFrom && !basicTo) {
-        previousInputMode_ = mode;
+        previousInputMode_ = modeLeft_ = mode;
         mode = kModeString;
     } else if (!basicFrom && basicTo) {
         mode = previousInputMode_;
+        if (mode != modeLeft_) {
+            // Changed meanwhile: what one machine has on show means nothing to the other.
+            display_->Key(KEY_CLEAR);
+        }
     }
 }
 
@@ -257,7 +262,14 @@ void CMainFrame::ApplyPreferences(const Preferences& changed) {
     const bool modeChanged =
         mode !=
         (currentCategory_ > kLastBasicModeCategory ? previousInputMode_ : preferences_.calculator.inputMode);
+    const bool signsChanged = SignsOf(changed.calculator.numberLocale).decimal !=
+                              SignsOf(preferences_.calculator.numberLocale).decimal;
     preferences_ = changed;
+    if (signsChanged) {
+        // Read in the other locale, "1.5" would be fifteen.
+        display_->ExchangeDecimalSigns();
+        macros_.ExchangeDecimalSigns();
+    }
     if (currentCategory_ > kLastBasicModeCategory) {
         // The chosen mode waits for the pages that know it.
         previousInputMode_ = mode;

@@ -235,6 +235,8 @@ class CMainFrame {
     int currentCategory_ = 0;
     /// The user's mode while a category above 2 forces String mode.
     std::u16string previousInputMode_;
+    /// The mode in which those pages were left.
+    std::u16string modeLeft_;
     std::int32_t pressedKey_ = KEY_NONE;
     Point savedPoint_;
     bool holdFired_ = false;

@@ -177,6 +177,11 @@ void MainFrameWnd::LoadColours() {
                              .ink = colours_[SkinColour::sheetInk],
                              .line = colours_[SkinColour::sheetLine],
                              .accent = colours_[SkinColour::sheetAccent]};
+    led_->SetMenuColours({.sheet = sheet.sheet,
+                          .ink = sheet.ink,
+                          .line = sheet.line,
+                          .chosen = colours_[SkinColour::chosen],
+                          .chosenInk = colours_[SkinColour::chosenInk]});
     hint_->SetColours(sheet);
     names_->SetColours(sheet);
 }

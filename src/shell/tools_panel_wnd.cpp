@@ -187,8 +187,11 @@ void ToolsPanelWnd::PaintPageKey(QPainter& painter, const SheetPart& part) {
     const int size = pictures_.pageKeys.width() / 2;
     const int row = part.kind == SheetPart::Kind::pageBack ? 0 : 1;
     const int column = part == model_->Pressed() ? 1 : 0;
+    // Their ground is the sheet's, and as translucent.
+    painter.setOpacity(transparence_ < kSolidTilesFrom ? 1.0 - transparence_ / 100.0 : 1.0);
     DrawPicture(painter, QPointF(place.left, place.top), pictures_.pageKeys,
                 QRect(column * size, row * size, size, size));
+    painter.setOpacity(1.0);
 }
 
 void ToolsPanelWnd::PaintFocus(QPainter& painter) {

@@ -73,8 +73,13 @@ TEST(Files, TheProgramFolderIsTheFirstWritableOne) {
     EXPECT_EQ(FindProgramFolder("/proc/self", folder / "user"), folder / "user");
     EXPECT_EQ(FindProgramFolder("/proc/self", "/proc/none"), "/proc/self");
     folder.Write("user/units.dat", "mine");
+    // The user's copy can be written, also where the original is closed to everyone.
+    const fs::path closed = folder / "installed/Interfaces";
+    fs::permissions(closed, fs::perms::owner_write, fs::perm_options::remove);
     SeedFolder(folder / "installed", folder / "user");
+    fs::permissions(closed, fs::perms::owner_write, fs::perm_options::add);
     EXPECT_TRUE(fs::exists(folder / "user/Interfaces/default.inf"));
+    EXPECT_NE(fs::status(folder / "user/Interfaces").permissions() & fs::perms::owner_write, fs::perms::none);
     EXPECT_FALSE(fs::exists(folder / "user/program"));
     EXPECT_EQ(fs::file_size(folder / "user/units.dat"), 4U);
     // A newer installation brings its pictures, and leaves the user's data and his own skins.

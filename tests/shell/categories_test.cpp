@@ -99,6 +99,34 @@ TEST(Categories, InputModeReturnsWithThePagesThatKnowIt) {
     EXPECT_EQ(rig.frame.Settings().calculator.inputMode, kModeBasic);
 }
 
+TEST(Categories, ChangedPreferencesKeepTheValuesOnShow) {
+    const TemporaryFolder folder;
+    FrameRig rig(folder.Path());
+    rig.TypeText(u"1234.5*2=");
+    Preferences changed = rig.frame.UserSettings();
+    for (const auto& [locale, line, result] :
+         {std::tuple{u"European", "1234¸5×2", "2.469"}, {u"English (UK)", "1234.5×2", "2¸469"}}) {
+        changed.calculator.numberLocale = locale;
+        rig.frame.ApplyPreferences(changed);
+        EXPECT_EQ(rig.Row(), line);
+        EXPECT_EQ(rig.Result(), result);
+        rig.TypeText(u"=");
+        EXPECT_EQ(rig.Result(), result);
+    }
+    // Another machine finds an empty line, also when it was chosen on a page of another kind.
+    rig.frame.SwitchCategory(CATEGORY_TIP);
+    changed.calculator.inputMode = kModeBasic;
+    rig.frame.ApplyPreferences(changed);
+    rig.frame.SwitchCategory(CATEGORY_ARITHMETIC);
+    rig.TypeText(u"6*7=");
+    EXPECT_EQ(rig.Row(), "42");
+    rig.frame.SwitchCategory(CATEGORY_TIP);
+    changed.calculator.inputMode = kModeString;
+    rig.frame.ApplyPreferences(changed);
+    rig.frame.SwitchCategory(CATEGORY_ARITHMETIC);
+    EXPECT_EQ(rig.Row(), "");
+}
+
 TEST(Categories, TheChooserOpensClosesAndLatches) {
     const TemporaryFolder folder;
     FrameRig rig(folder.Path());

@@ -207,6 +207,12 @@ TEST_F(ShellWndTest, AMacroIsWrittenCalledAndKept) {
         window->Popup()->PressAccessibleCell(7);
         TypeText(*window, QStringLiteral("3,4)="));
         EXPECT_EQ(Result(*window), "12");
+        window->Frame().SwitchCategory(CATEGORY_BASE_CONVERSION);
+        TypeText(*window, QStringLiteral("ar"));
+        Press(*window, Qt::Key_Return);
+        TypeText(*window, QStringLiteral("3,4)="));
+        EXPECT_EQ(Result(*window), "12");
+        window->Frame().SwitchCategory(CATEGORY_ARITHMETIC);
         // Killed here, it has the macro all the same.
     }
     const auto window = Open();

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "platform/qt/fonts.h"
+#include "platform/qt/pictures.h"
 
 namespace quorix {
 
@@ -15,7 +16,7 @@ constexpr int kRowPaddingX = 9;
 
 }  // namespace
 
-QMenu* NewPopupMenu(QWidget* parent, double pixelsPerUnit) {
+QMenu* NewPopupMenu(QWidget* parent, double pixelsPerUnit, const MenuColours& colours) {
     auto* const menu = new QMenu(parent);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     const auto pixels = [pixelsPerUnit](double units) {
@@ -24,14 +25,20 @@ QMenu* NewPopupMenu(QWidget* parent, double pixelsPerUnit) {
     QFont font = ScreenFont({.em = kRowText, .weight = kMediumWeight}, 1);
     font.setPixelSize(pixels(kRowText));
     menu->setFont(font);
-    // Sheet, ink, lines and chosen tile of the visual design.
-    menu->setStyleSheet(
-        QStringLiteral("QMenu { background: #F3F5F9; color: #24304A; border: 1px solid #C4CDDC; }"
-                       "QMenu::item { padding: %1px %2px; }"
-                       "QMenu::item:selected { background: #2F62B8; color: #FFFFFF; }"
-                       "QMenu::item:disabled { color: #9AA5B8; background: transparent; }")
-            .arg(pixels(kRowPaddingY))
-            .arg(pixels(kRowPaddingX)));
+    const auto name = [](ColorRef colour) { return ToQColor(colour).name(); };
+    // What cannot be chosen now lies half way between ink and sheet.
+    const QColor ink = ToQColor(colours.ink);
+    const QColor sheet = ToQColor(colours.sheet);
+    const QColor pale((ink.red() + sheet.red()) / 2, (ink.green() + sheet.green()) / 2,
+                      (ink.blue() + sheet.blue()) / 2);
+    menu->setStyleSheet(QStringLiteral("QMenu { background: %1; color: %2; border: 1px solid %3; }"
+                                       "QMenu::item { padding: %4px %5px; }"
+                                       "QMenu::item:selected { background: %6; color: %7; }"
+                                       "QMenu::item:disabled { color: %8; background: transparent; }")
+                            .arg(name(colours.sheet), name(colours.ink), name(colours.line))
+                            .arg(pixels(kRowPaddingY))
+                            .arg(pixels(kRowPaddingX))
+                            .arg(name(colours.chosen), name(colours.chosenInk), pale.name()));
     return menu;
 }
 
