@@ -42,7 +42,7 @@ int RunConsole(std::span<const std::string_view> arguments) {
     if (options.task != ConsoleTask::calculate) {
         std::string output;
         const bool succeeded = RunTask(options, output);
-        Print(stdout, output);
+        Print(succeeded || options.task != ConsoleTask::picture ? stdout : stderr, output);
         return succeeded ? EXIT_GOOD : EXIT_EXPRESSION;
     }
     ConsoleSession session(options);

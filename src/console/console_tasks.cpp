@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "engine/calc_context.h"
+#include "equations/coefficient_line.h"
 #include "equations/equation_picture.h"
 #include "equations/equation_solver.h"
 #include "equations/simultaneous.h"
@@ -46,7 +47,7 @@ bool SolveSystem(std::u16string_view text, std::string& output) {
 }
 
 bool Solve(const ConsoleOptions& options, std::string& output) {
-    const std::u16string text = FromUtf8(options.taskText);
+    const std::u16string text = WithEngineSigns(FromUtf8(options.taskText));
     if (text.find(u';') != text.npos) return SolveSystem(text, output);
     return WriteLines(SolveEquationCommand(text), output);
 }

@@ -27,6 +27,14 @@ bool IsSound(std::u16string_view token) {
 
 }  // namespace
 
+std::u16string WithEngineSigns(std::u16string_view line) {
+    constexpr std::array<std::array<char16_t, 2>, 3> kSigns = {
+        {{0x00D7, u'*'}, {0x00F7, u'/'}, {0x2212, u'-'}}};
+    std::u16string text(line);
+    for (const auto& [shown, plain] : kSigns) std::ranges::replace(text, shown, plain);
+    return text;
+}
+
 std::u16string CollapseBlanks(std::u16string_view line) {
     std::u16string text(line);
     CollapsePair(text, u' ');
@@ -58,10 +66,7 @@ std::vector<std::u16string> CoefficientTexts(std::u16string_view line, std::size
 
 std::optional<std::u16string> CheckedLine(std::u16string_view line) {
     constexpr std::u16string_view kTrimmed = u" ./";
-    std::u16string text(line);
-    constexpr std::array<std::array<char16_t, 2>, 3> kDisplaySigns = {
-        {{0x00D7, u'*'}, {0x00F7, u'/'}, {0x2212, u'-'}}};
-    for (const auto& [shown, plain] : kDisplaySigns) std::ranges::replace(text, shown, plain);
+    std::u16string text = WithEngineSigns(line);
     for (const char16_t sign : {u' ', u'-', u'/', u'.'}) CollapsePair(text, sign);
     text.erase(0, text.find_first_not_of(kTrimmed));
     text.erase(text.find_last_not_of(kTrimmed) + 1);

@@ -12,6 +12,8 @@ namespace quorix {
 /// Most characters of a coefficient, its parentheses included.
 inline constexpr std::size_t kLongestCoefficient = 128;
 
+/// The engine's signs for the display's: "*", "/" and "-".
+std::u16string WithEngineSigns(std::u16string_view line);
 /// Cuts runs of blanks down to one.
 std::u16string CollapseBlanks(std::u16string_view line);
 /// The parts of a line between blanks.

@@ -1,28 +1,59 @@
 #include "equations/equation_picture.h"
 
 #include <algorithm>
+#include <array>
 #include <new>
+#include <string>
+#include <vector>
 
 #include "equations/tex_translation.h"
 
 namespace quorix {
 namespace {
 
-constexpr int kNeighbours = 8;
+constexpr int kFullStrength = 16;
 
-int SetNeighbours(const EquationRaster& raster, int x, int y) {
-    int count = 0;
-    for (int row = std::max(y - 1, 0); row <= std::min(y + 1, raster.height - 1); ++row) {
-        for (int col = std::max(x - 1, 0); col <= std::min(x + 1, raster.width - 1); ++col) {
-            count += raster.At(col, row) ? 1 : 0;
+/// One byte a pixel, 1 for set bits, with an empty edge of one pixel all around.
+struct ByteMap {
+    explicit ByteMap(const EquationRaster& raster)
+        : stride(static_cast<std::size_t>(raster.width) + 2),
+          bytes(stride * (static_cast<std::size_t>(raster.height) + 2)) {
+        for (int y = 0; y < raster.height; ++y) {
+            std::uint8_t* row = bytes.data() + (static_cast<std::size_t>(y) + 1) * stride + 1;
+            for (int x = 0; x < raster.width; ++x) row[x] = raster.At(x, y) ? 1 : 0;
         }
     }
-    return count;
-}
 
-/// From one channel to the other in sixteenths, rounded.
-std::uint8_t Mixed(std::uint8_t from, std::uint8_t to, int sixteenths) {
-    return static_cast<std::uint8_t>((from * (16 - sixteenths) + to * sixteenths + 8) / 16);
+    /// How strongly a pixel is inked, in sixteenths: wholly when set, else by one for each set neighbour.
+    [[nodiscard]] int StrengthAt(int x, int y) const {
+        const std::uint8_t* above =
+            bytes.data() + static_cast<std::size_t>(y) * stride + static_cast<std::size_t>(x);
+        const std::uint8_t* here = above + stride;
+        const std::uint8_t* below = here + stride;
+        if (here[1] != 0) return kFullStrength;
+        return above[0] + above[1] + above[2] + here[0] + here[2] + below[0] + below[1] + below[2];
+    }
+
+    std::size_t stride;
+    std::vector<std::uint8_t> bytes;
+};
+
+using Pixel = std::array<std::uint8_t, 4>;
+
+/// The colours from background to text in sixteenths, rounded.
+std::array<Pixel, kFullStrength + 1> Shades(const EquationColors& colors) {
+    const auto mixed = [](int from, int to, int strength) {
+        return static_cast<std::uint8_t>(
+            (from * (kFullStrength - strength) + to * strength + kFullStrength / 2) / kFullStrength);
+    };
+    std::array<Pixel, kFullStrength + 1> shades{};
+    for (int strength = 0; strength <= kFullStrength; ++strength) {
+        shades[static_cast<std::size_t>(strength)] = {
+            mixed(RedOf(colors.background), RedOf(colors.text), strength),
+            mixed(GreenOf(colors.background), GreenOf(colors.text), strength),
+            mixed(BlueOf(colors.background), BlueOf(colors.text), strength), 255};
+    }
+    return shades;
 }
 
 }  // namespace
@@ -32,15 +63,14 @@ DecodedPicture PaintRaster(const EquationRaster& raster, const EquationColors& c
     if (raster.IsEmpty()) return picture;
     picture.width = raster.width;
     picture.height = raster.height;
-    picture.pixels.reserve(static_cast<std::size_t>(raster.width) * static_cast<std::size_t>(raster.height) *
-                           4);
+    picture.pixels.resize(static_cast<std::size_t>(raster.width) * static_cast<std::size_t>(raster.height) *
+                          4);
+    const ByteMap map(raster);
+    const auto shades = Shades(colors);
+    auto pixel = picture.pixels.begin();
     for (int y = 0; y < raster.height; ++y) {
         for (int x = 0; x < raster.width; ++x) {
-            const int strength = raster.At(x, y) ? 2 * kNeighbours : SetNeighbours(raster, x, y);
-            picture.pixels.push_back(Mixed(RedOf(colors.background), RedOf(colors.text), strength));
-            picture.pixels.push_back(Mixed(GreenOf(colors.background), GreenOf(colors.text), strength));
-            picture.pixels.push_back(Mixed(BlueOf(colors.background), BlueOf(colors.text), strength));
-            picture.pixels.push_back(255);
+            pixel = std::ranges::copy(shades[static_cast<std::size_t>(map.StrengthAt(x, y))], pixel).out;
         }
     }
     return picture;

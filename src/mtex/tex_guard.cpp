@@ -82,6 +82,7 @@ constexpr bool IsLetter(char c) {
 }
 
 constexpr std::string_view kRoot = "sqrt";
+constexpr std::string_view kLineBreak = "\\\\";
 constexpr std::string_view kOpening = "\\left(";
 constexpr std::string_view kClosing = "\\right)";
 constexpr int kDeepestRoot = 64;
@@ -103,6 +104,12 @@ std::string PreparedGroup(std::string_view tex, int depth) {
     for (std::size_t at = 0; at < tex.size();) {
         std::size_t end = at;
         while (end < tex.size() && IsLetter(tex[end])) ++end;
+        if (tex.substr(at).starts_with(kLineBreak)) {
+            // The rasteriser must not take the second backslash for that of a command.
+            prepared.append(kLineBreak).append(" ");
+            at += kLineBreak.size();
+            continue;
+        }
         if (end == at) {
             prepared.push_back(tex[at++]);
             continue;

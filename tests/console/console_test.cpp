@@ -289,6 +289,11 @@ TEST_F(ConsoleTest, TheProgramTellsSuccessByItsStatus) {
                 {{}, "1+2\n[ans]+1\n", 0, "3\n4\n", ""},
                 {{}, "[VA]=[1 2;3 4]\ndet([VA])\n", 0, "[1 2;3 4]\n-2\n", ""},
                 {{}, "1+2\n(\n", 1, "3\n", "Syntax error\n"},
+                {{"--solve", "1 -3 2"}, "", 0, "X_1=1=1\nX_2=2=2\n", ""},
+                {{"--solve=2 1 5; 1 −1 1"}, "", 0, "X_1=2=2\nX_2=1=1\n", ""},
+                {{"--solve", "1 1 1"}, "", 1, "\\text{Cannot be solved!}\n", ""},
+                {{"--tex", "1÷3+2√(x)"}, "", 0, "\\frac{1}{3}+\\sqrt{x}\n", ""},
+                {{"--picture", "/nowhere/picture.png", "("}, "", 1, "", ""},
                 {{"--digits", "none"}, "", 2, "", "quorix-calc: option --digits does not take \"none\"\n"},
                 {{"--version"}, "", 0, "quorix-calc ", ""},
                 {{"--help"}, "", 0, "Usage: quorix-calc", ""}};

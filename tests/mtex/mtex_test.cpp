@@ -37,6 +37,7 @@ TEST(TexGuard, LetsMathematicsPassAndNothingElse) {
               R"(\nosmash \sin x+\sin \left(2 \exp  3\right)+asinh)");
     EXPECT_EQ(PreparedTex(R"(sqrt\left( sqrt\left( x \right)+(1) \right)y)"),
               R"(\nosmash \sqrt { \sqrt { x }+(1) }y)");
+    EXPECT_EQ(PreparedTex(R"(a\\input\\\right)"), R"(\nosmash a\\ input\\ \right)");
     EXPECT_EQ(PreparedTex(R"(sqrt\left( x)"), R"(\nosmash \sqrt \left( x)");
 }
 
