@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <span>
 
 #include "equations/curve_sampling.h"
 
@@ -12,14 +13,19 @@ namespace {
 constexpr double kLargestJump = 32;
 // Golden section: each evaluation keeps 0.618 of the interval.
 constexpr double kGolden = 0.6180339887498949;
-constexpr int kShortSearch = 5;
+constexpr int kShortSearch = 8;
 constexpr int kLongSearch = 15;
+// Heights above the turn, in differences between it and the lower sample beside it: more than a smooth top
+// rises between two samples, and more than can be told from a pole.
+constexpr double kSteepRise = 1;
+constexpr double kPoleRise = 1000;
 
 /// Samples either side of the turn, in the order of the search, which starts where the curve rises to it.
 struct TurnPoints {
     double startX;
     double startHeight;
     double endX;
+    double endHeight;
     double topHeight;
 };
 
@@ -33,6 +39,8 @@ class PoleSearch {
           start_(points.startX),
           end_(points.endX),
           floor_(points.startHeight),
+          top_(points.topHeight),
+          bottom_(std::min(points.startHeight, points.endHeight)),
           best_(points.topHeight) {
         innerX_ = InnerX();
         outerX_ = OuterX();
@@ -40,19 +48,21 @@ class PoleSearch {
         outer_ = HeightAt(outerX_);
     }
 
-    bool FindsPole() { return Grows(kShortSearch) && Grows(kLongSearch); }
+    bool FindsPole() { return Grows(kShortSearch, kSteepRise) && Grows(kLongSearch, kPoleRise); }
     /// Where the pole is, once found.
     [[nodiscard]] double Place() const { return (start_ + end_) * 0.5; }
 
   private:
-    // Whether the second of two runs gains as much as the first; half of it leaves room for logarithms, whose
-    // steps are uneven.
-    bool Grows(int rounds) {
+    // Whether the second of two runs gains about as much as the first. A quarter leaves room for logarithms,
+    // as golden section climbs in uneven steps; at a cusp like that of a square root it is a seventh. A point
+    // that falls near a pole by chance leaves later runs little to gain; then the height itself tells.
+    bool Grows(int rounds, double steepness) {
         const double before = best_;
         Run(rounds);
         const double middle = best_;
         Run(rounds);
-        return best_ > middle && best_ - middle >= (middle - before) * 0.5;
+        return (best_ > middle && best_ - middle >= (middle - before) * 0.25) ||
+               best_ - top_ > steepness * (top_ - bottom_);
     }
 
     void Run(int rounds) {
@@ -94,6 +104,8 @@ class PoleSearch {
     double start_;
     double end_;
     double floor_;
+    double top_;
+    double bottom_;
     double best_;
     double innerX_ = 0.0;
     double outerX_ = 0.0;
@@ -111,7 +123,8 @@ void MarkPoleAbout(GraphCurve& curve, std::size_t turn) {
     const bool isForward = std::fabs(after) >= std::fabs(before);
     const std::size_t start = isForward ? turn - 1 : turn + 1;
     const std::size_t end = isForward ? turn + 1 : turn - 1;
-    PoleSearch search(*curve.function, sign, {x[start], y[start] * sign, x[end], y[turn] * sign});
+    PoleSearch search(*curve.function, sign,
+                      {x[start], y[start] * sign, x[end], y[end] * sign, y[turn] * sign});
     if (!search.FindsPole()) return;
     curve.isBehindPole[search.Place() > x[turn] ? turn + 1 : turn] = true;
 }
@@ -120,23 +133,28 @@ bool AreNeighbours(const GraphCurve& curve, std::size_t left) {
     return curve.xValues[left + 1] - curve.xValues[left] <= kSampleStep * 1.5;
 }
 
-// A smooth curve flattens towards its turn; towards a pole the differences grow. The flatter side tells, as a
-// jump from one infinity to the other may be on the steeper one.
-bool SteepensTowards(const GraphCurve& curve, std::size_t turn) {
-    const auto& y = curve.yValues;
-    const double before = std::fabs(y[turn] - y[turn - 1]);
-    const double after = std::fabs(y[turn + 1] - y[turn]);
-    if (before <= after) {
-        return turn < 2 || !AreNeighbours(curve, turn - 2) || before >= std::fabs(y[turn - 1] - y[turn - 2]);
-    }
-    return turn + 2 >= static_cast<std::size_t>(curve.pointCount) || !AreNeighbours(curve, turn + 1) ||
-           after >= std::fabs(y[turn + 2] - y[turn + 1]);
+bool IsTurn(std::span<const double> y, std::size_t index) {
+    return (y[index] - y[index - 1]) * (y[index + 1] - y[index]) < 0;
 }
 
-bool MayHoldPole(const GraphCurve& curve, std::size_t turn) {
-    return AreNeighbours(curve, turn - 1) && AreNeighbours(curve, turn) &&
-           std::isfinite(curve.yValues[turn - 1]) && std::isfinite(curve.yValues[turn + 1]) &&
-           !curve.isBehindPole[turn] && !curve.isBehindPole[turn + 1] && SteepensTowards(curve, turn);
+// A smooth curve flattens towards its turn on both sides; towards a pole the differences grow on the side
+// that does not jump across it. Where the segment behind the turn is left out anyway, only a pole in the
+// segment before it matters. Turns at every sample are an oscillation finer than the samples.
+bool MayHoldPole(const GraphCurve& curve, std::size_t turn, GraphTurn kind) {
+    const auto& y = curve.yValues;
+    if (!AreNeighbours(curve, turn - 1) || !AreNeighbours(curve, turn) || !std::isfinite(y[turn - 1]) ||
+        !std::isfinite(y[turn + 1]) || curve.isBehindPole[turn] || curve.isBehindPole[turn + 1]) {
+        return false;
+    }
+    const auto difference = [&y](std::size_t left) { return std::fabs(y[left + 1] - y[left]); };
+    const bool hasLeft = turn >= 2 && AreNeighbours(curve, turn - 2);
+    const bool hasRight =
+        turn + 2 < static_cast<std::size_t>(curve.pointCount) && AreNeighbours(curve, turn + 1);
+    if (hasLeft && hasRight && IsTurn(y, turn - 1) && IsTurn(y, turn + 1)) return false;
+    const bool steepensBefore = hasLeft && difference(turn - 1) >= difference(turn - 2);
+    const bool steepensBehind = !hasRight || difference(turn) >= difference(turn + 1);
+    return kind == GraphTurn::extremum ? !hasLeft || steepensBefore || steepensBehind
+                                       : !steepensBefore && steepensBehind;
 }
 
 }  // namespace
@@ -157,8 +175,7 @@ void MarkPoles(GraphCurve& curve, std::size_t from, std::size_t to) {
     for (std::size_t i = first; i < to && i + 1 < count; ++i) {
         const double after = y[i + 1] - y[i];
         // Most samples are no turns.
-        if (before * after < 0 && TurnOf(before, y[i], y[i + 1]) == GraphTurn::extremum &&
-            MayHoldPole(curve, i)) {
+        if (before * after < 0 && MayHoldPole(curve, i, TurnOf(before, y[i], y[i + 1]))) {
             MarkPoleAbout(curve, i);
         }
         before = after;

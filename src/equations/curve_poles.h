@@ -7,7 +7,7 @@ namespace quorix {
 struct GraphCurve;
 
 /// Looks for poles about the samples [from, to) at which the curve turns round, and marks the segments that
-/// hold them. What the drawing rule finds on its own is not looked at (see GraphTurn).
+/// hold them. A pole that the drawing rule finds on its own (GraphTurn) is not looked for.
 void MarkPoles(GraphCurve& curve, std::size_t from, std::size_t to);
 
 /// What a segment is after the segment before it.

@@ -5,6 +5,8 @@
 #include <cmath>
 #include <span>
 
+#include "equations/graph_labels.h"
+
 namespace quorix {
 namespace {
 
@@ -118,7 +120,8 @@ DecodedPicture DrawGraphPicture(const GraphView& view, ColorRef background, Colo
     Canvas canvas(view.surfaceWidth, view.surfaceHeight, background);
     for (const GraphLine& line : GraphAxes(view)) canvas.Line(line, kGridColour);
     for (const GraphLine& line : GraphTicks(view)) canvas.Line(line, kGridColour);
-    static_cast<void>(ink);
+    for (const GraphRun& stroke : GraphLabels(view)) canvas.Stroke(stroke, kLabelWidth * view.screenScale);
+    canvas.Paint(ink);
     for (const GraphCurve& curve : view.curves) {
         for (const GraphRun& run : GraphRuns(view, curve)) canvas.Stroke(run, kCurveWidth * view.screenScale);
         canvas.Paint(curve.colour);

@@ -12,15 +12,18 @@
 #include "console/batch_run.h"
 #include "console/console_options.h"
 #include "console/console_session.h"
+#include "console/plot_run.h"
 #include "console/prompt.h"
 #include "engine/eval_matrix.h"
 #include "matrix/matrix_operators.h"
+#include "platform/files.h"
 #include "support/engine_fixture.h"
+#include "support/temporary_folder.h"
 
 namespace quorix {
 namespace {
 
-using testing::HasSubstr;
+using ::testing::HasSubstr;
 using ConsoleTest = EngineTest;
 
 ParsedOptions Parse(std::vector<std::string_view> arguments) {
@@ -63,8 +66,35 @@ TEST_F(ConsoleTest, WrongCommandLinesSayWhatIsWrong) {
                 {{"--fixed", "2x"}, "\"2x\""},
                 {{"--word", "64"}, "\"64\""},
                 {{"--locale", ""}, "\"\""},
+                {{"--plot="}, "\"\""},
+                {{"--units", "7,20"}, "\"7,20\""},
+                {{"--centre", "1"}, "\"1\""},
                 {{"--help=1"}, "unknown option"}};
     for (const auto& row : rows) EXPECT_THAT(ParseOptions(row.arguments).error, HasSubstr(row.part));
+}
+
+TEST_F(ConsoleTest, PlotsAreDrawnIntoPictureFiles) {
+    const quorix::testing::TemporaryFolder folder;
+    const auto plot = [&](std::string_view file, std::vector<std::string_view> rest) {
+        const std::string path = (folder / file).string();
+        std::vector<std::string_view> arguments = {"--angle", "rad", "--plot", path};
+        arguments.insert(arguments.end(), rest.begin(), rest.end());
+        const ConsoleOptions options = Parse(arguments).options;
+        return RunPlot(ConsoleSession(options), options);
+    };
+    const auto head = [&](std::string_view file) {
+        const auto bytes = ReadWholeFile(folder / file);
+        return bytes ? std::string(bytes->begin(), bytes->begin() + 4) : "absent";
+    };
+    EXPECT_TRUE(plot("a.png", {"--units=40,40", "--centre", "1,-1", "sin(x)×3", "2√(x)", "x÷2"}).succeeded);
+    EXPECT_EQ(head("a.png"), "\x89PNG");
+    EXPECT_TRUE(plot("b.BMP", {"-x"}).succeeded);
+    EXPECT_EQ(head("b.BMP").substr(0, 2), "BM");
+    EXPECT_THAT(plot("c.png", {"x", "x+"}).messages, HasSubstr("no value of \"x+\""));
+    EXPECT_EQ(head("c.png"), "\x89PNG") << "the other function is drawn";
+    EXPECT_THAT(plot("d.gif", {"x"}).messages, HasSubstr(".png or .bmp"));
+    EXPECT_THAT(plot("e.png", {}).messages, HasSubstr("needs a function"));
+    EXPECT_THAT(plot("absent/f.png", {"x"}).messages, HasSubstr("cannot write"));
 }
 
 std::string Answer(ConsoleSession& session, std::string_view line, bool succeeds = true) {
@@ -225,7 +255,7 @@ TEST_F(ConsoleTest, BatchAnswersEachLineInOrder) {
     EXPECT_EQ(output.ReadAll(), "2\n6\n7\n");
     EXPECT_EQ(errors.ReadAll(), "Syntax error\n");
     // Lines that the reading blocks cut in two.
-    const std::filesystem::path path = testing::TempDir() + "/quorix_batch_lines";
+    const std::filesystem::path path = ::testing::TempDir() + "/quorix_batch_lines";
     std::string expected;
     {
         std::ofstream file(path);
@@ -234,7 +264,7 @@ TEST_F(ConsoleTest, BatchAnswersEachLineInOrder) {
             expected += std::to_string(i + 1) + "\n";
         }
     }
-    const std::filesystem::path results = testing::TempDir() + "/quorix_batch_results";
+    const std::filesystem::path results = ::testing::TempDir() + "/quorix_batch_results";
     const int lines = open(path.c_str(), O_RDONLY);
     const int written = open(results.c_str(), O_RDWR | O_CREAT | O_TRUNC, 0600);
     EXPECT_TRUE(RunBatch(session, lines, written, STDERR_FILENO));
@@ -312,7 +342,7 @@ bool IsRaw(int terminal) {
 }
 
 TEST_F(ConsoleTest, ThePromptEditsAndKeepsAHistory) {
-    const std::filesystem::path home = std::filesystem::path(testing::TempDir()) / "quorix_prompt";
+    const std::filesystem::path home = std::filesystem::path(::testing::TempDir()) / "quorix_prompt";
     std::filesystem::remove_all(home);
     int terminal = -1;
     const pid_t child = forkpty(&terminal, nullptr, nullptr, nullptr);
@@ -347,7 +377,7 @@ TEST_F(ConsoleTest, ThePromptEditsAndKeepsAHistory) {
     close(terminal);  // Hangs up on a program that still waits.
     int status = -1;
     waitpid(child, &status, 0);
-    EXPECT_EQ(status, 0) << testing::PrintToString(screen);
+    EXPECT_EQ(status, 0) << ::testing::PrintToString(screen);
     EXPECT_THAT(screen, HasSubstr("\n42\r\n"));
     EXPECT_THAT(screen, HasSubstr("\n82\r\n"));
     std::ifstream file(home / "quorix" / "history");
