@@ -41,7 +41,9 @@ void ReadAll(const std::filesystem::path& path) {
         reader.ListChildGroups(groups[i].name, children);
         reader.ReadConstantRows(groups[i].name, constants);
         reader.ReadUnitRows(groups[i].name, units);
-        reader.ErrorText();
+        if (reader.ErrorText().empty()) {
+            __builtin_trap();
+        }
     }
 }
 

@@ -16,8 +16,8 @@ constexpr std::size_t kLongestNumber = 100;
 // The bits of FieldSeparators.
 constexpr std::array<std::uint8_t, 256> kSeparatorBits = [] {
     std::array<std::uint8_t, 256> bits{};
-    for (const unsigned char blank : {' ', '\t', '\n', '\v', '\f', '\r'}) {
-        bits[blank] = 1;
+    for (const char blank : {' ', '\t', '\n', '\v', '\f', '\r'}) {
+        bits[static_cast<unsigned char>(blank)] = 1;
     }
     bits[':'] = 2;
     bits['#'] = 4;
