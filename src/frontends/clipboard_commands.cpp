@@ -177,7 +177,18 @@ bool PasteShortcut(CLedDisplay& display, Clipboard& clipboard) {
 }
 
 void CopyResult(const CLedDisplay& display, Clipboard& clipboard) {
-    clipboard.PutText(ForOtherPrograms(display.GetResultText()));
+    const std::u16string text = ForOtherPrograms(display.GetResultText());
+    const std::size_t blank = text.find(u' ');
+    if (HasResult(display) && blank != text.npos && text.find(u'/') != text.npos) {
+        // "-3 16/113": pasted back it is the number, whatever "3 16" looks like elsewhere.
+        const std::size_t sign = text.front() == u'-' ? 1 : 0;
+        const std::u16string sum = text.substr(0, sign) + u'(' + text.substr(sign, blank - sign) + u'+' +
+                                   text.substr(blank + 1) + u')';
+        const std::u16string& locale = display.Settings().numberLocale;
+        LastCopiedLine() = {text, TranslatePaste(sum, locale, RadixOf(display.GetBase())), display.GetBase(),
+                            locale};
+    }
+    clipboard.PutText(text);
 }
 
 void CopyAllDigits(const CLedDisplay& display, Clipboard& clipboard) {

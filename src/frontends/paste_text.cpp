@@ -56,6 +56,8 @@ class PasteReader {
         : text_(TidyText(text, kLongestPaste)), decimal_(SignsOf(numberLocale).decimal), radix_(radix) {}
 
     TokenText Read() {
+        // As spreadsheets begin a formula.
+        at_ = text_.starts_with(u'=') ? 1 : 0;
         while (at_ < text_.size() && out_.text.size() < kLongestLine) {
             ReadOne();
         }
@@ -102,6 +104,7 @@ class PasteReader {
     void ReadOne();
     void ReadBlank();
     void ReadNumber();
+    bool ReadMixedNumber();
     [[nodiscard]] bool IsHexNumberHere() const;
     void ReadHexNumber();
     [[nodiscard]] std::vector<std::size_t> NumberGroups() const;
@@ -230,7 +233,43 @@ NumberReading PasteReader::ReadGroups(const std::vector<std::size_t>& starts, bo
     return reading;
 }
 
+/// "3 1/7", as fractions are shown and written. Three digits behind the blank are a group of thousands.
+bool PasteReader::ReadMixedNumber() {
+    const std::size_t wholeEnd = GroupEnd(at_);
+    const std::size_t over = wholeEnd + 1;
+    const std::size_t overEnd = GroupEnd(std::min(over, text_.size()));
+    const std::size_t under = overEnd + 1;
+    if (radix_ != 10 || wholeEnd == at_ || EndsOperand() || under >= text_.size() ||
+        text_[wholeEnd] != u' ' || text_[overEnd] != u'/' || overEnd - over == kGroup) {
+        return false;
+    }
+    const std::size_t underEnd = GroupEnd(under);
+    const std::size_t overLength = overEnd - over;
+    const std::size_t underLength = underEnd - under;
+    const auto piece = [this](std::size_t from, std::size_t to) {
+        return std::u16string_view(text_).substr(from, to - from);
+    };
+    const bool proper =
+        overLength != underLength ? overLength < underLength : piece(over, overEnd) < piece(under, underEnd);
+    const char16_t behind = underEnd < text_.size() ? text_[underEnd] : u'\0';
+    const bool goesOn = behind == u'.' || IsComma(behind) || IsNeutralSeparator(behind);
+    if (!proper || overLength == 0 || text_[over] == u'0' || text_[under] == u'0' ||
+        (goesOn && underEnd + 1 < text_.size() && IsDigit(text_[underEnd + 1]))) {
+        return false;
+    }
+    Open(u"(", false);
+    for (const char16_t c : piece(at_, underEnd)) {
+        Emit(c == u' ' ? u'+' : c == u'/' ? symbols::kDivide : c);
+    }
+    Close();
+    at_ = underEnd;
+    return true;
+}
+
 void PasteReader::ReadNumber() {
+    if (ReadMixedNumber()) {
+        return;
+    }
     const std::vector<std::size_t> starts = NumberGroups();
     const bool localeComma = decimal_ == kDisplayComma;
     NumberReading reading = ReadGroups(starts, localeComma);

@@ -2,13 +2,15 @@
 
 #include <QMessageBox>
 
+#include "platform/qt/fonts.h"
 #include "shell/version.h"
 
 namespace quorix {
 
-void ShowAbout(QWidget* parent) {
+void ShowAbout(QWidget* parent, double pixelsPerUnit) {
     auto* const box = new QMessageBox(parent);
     box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setFont(FormFont(pixelsPerUnit));
     box->setWindowTitle(QStringLiteral("About"));
     box->setText(QStringLiteral("<b>Quorix %1</b>").arg(QString::fromLatin1(kVersion)));
     box->setInformativeText(QStringLiteral(

@@ -332,6 +332,7 @@ void MainFrameWnd::NamesChanged() {
 void MainFrameWnd::ShowNotice(const QString& text) {
     auto* const box = new QMessageBox(QMessageBox::Information, windowTitle(), text, QMessageBox::Ok, this);
     box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setFont(FormFont(Scale() * Zoom()));
     box->open();
 }
 
@@ -353,7 +354,7 @@ void MainFrameWnd::OpenPreferences() {
 }
 
 void MainFrameWnd::OpenAbout() {
-    ShowAbout(this);
+    ShowAbout(this, Scale() * Zoom());
 }
 
 void MainFrameWnd::OpenHelp() {

@@ -79,4 +79,21 @@ bool ModuleWnd::ChooserPenUp(Point at) {
     return true;
 }
 
+QString ModuleWnd::AccessibleCellName(int /*index*/) const {
+    return EntryOf(category_).ground == PageGround::panels ? QString() : QStringLiteral("categories");
+}
+
+QRect ModuleWnd::AccessibleCellRect(int /*index*/) const {
+    return OnDesktop(ChooserKeyHere());
+}
+
+bool ModuleWnd::AccessibleCellDown(int /*index*/) const {
+    return site_.Frame().ChooserOpen();
+}
+
+void ModuleWnd::PressAccessibleCell(int /*index*/) {
+    site_.Frame().KeySound();
+    site_.Frame().ToggleChooser();
+}
+
 }  // namespace quorix

@@ -9,6 +9,7 @@
 
 #include "frontends/panel_painter.h"
 #include "platform/color.h"
+#include "platform/qt/accessible_cells.h"
 #include "platform/qt/window_base.h"
 #include "shell/category_registry.h"
 #include "shell/colours.h"
@@ -37,7 +38,7 @@ class ModuleSite {
 
 /// A window that stands in the frame for one category or several. It paints its own chooser key and opens the
 /// chooser by it; everything else is the module's.
-class ModuleWnd : public WindowBase {
+class ModuleWnd : public WindowBase, public CellSource {
   public:
     ModuleWnd(WindowBase& frame, ModuleSite& site, int category);
 
@@ -47,6 +48,13 @@ class ModuleWnd : public WindowBase {
     virtual void LayOut();
     void SetCategory(int category) { category_ = category; }
     [[nodiscard]] int Category() const { return category_; }
+
+    /// The chooser key, unless the panels have it; windows with painted keys of their own add theirs.
+    [[nodiscard]] int AccessibleCellCount() const override { return 1; }
+    [[nodiscard]] QString AccessibleCellName(int index) const override;
+    [[nodiscard]] QRect AccessibleCellRect(int index) const override;
+    [[nodiscard]] bool AccessibleCellDown(int index) const override;
+    void PressAccessibleCell(int index) override;
 
   protected:
     [[nodiscard]] ModuleSite& Site() const { return site_; }

@@ -86,4 +86,9 @@ void MorvaneButton::OnPenUp(Point at) {
     InvalidateAll();
 }
 
+void MorvaneButton::PressAccessibleCell(int /*index*/) {
+    OnPenDown({0, 0});
+    OnPenUp({0, 0});
+}
+
 }  // namespace quorix

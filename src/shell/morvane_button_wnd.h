@@ -13,7 +13,7 @@ inline constexpr int MSG_BUTTON = 5101;
 
 /// A skinned button: a cap of the upper panel with a text or a picture. A press captures the pen; a release
 /// inside posts MSG_BUTTON to the parent. As a toggle it stays down until the next press.
-class MorvaneButton : public WindowBase {
+class MorvaneButton : public WindowBase, public CellSource {
   public:
     MorvaneButton(WindowBase& parent, ModuleSite& site, int childId);
 
@@ -28,6 +28,12 @@ class MorvaneButton : public WindowBase {
     [[nodiscard]] bool Latched() const { return latched_; }
     /// A sound of its own that a press plays, in place of none.
     void SetSound(const std::filesystem::path& wav) { sound_ = wav; }
+
+    [[nodiscard]] int AccessibleCellCount() const override { return 1; }
+    [[nodiscard]] QString AccessibleCellName(int /*index*/) const override { return accessibleName(); }
+    [[nodiscard]] QRect AccessibleCellRect(int /*index*/) const override { return rect(); }
+    [[nodiscard]] bool AccessibleCellDown(int /*index*/) const override { return pressed_ || latched_; }
+    void PressAccessibleCell(int index) override;
 
   protected:
     void Paint(QPainter& painter, const Rect& dirty) override;

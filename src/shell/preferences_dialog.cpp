@@ -13,7 +13,6 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 #include <algorithm>
-#include <cmath>
 
 #include "platform/dense_picture.h"
 #include "platform/path.h"
@@ -30,8 +29,6 @@ constexpr int kMostTransparence = 50;
 constexpr int kShortestHold = 200;
 constexpr int kLongestHold = 600;
 constexpr int kMostFixDigits = 32;
-/// Text of forms, in logical units.
-constexpr double kFormText = 10.5;
 /// Role under which a row keeps what it stands for.
 constexpr int kValueRole = Qt::UserRole;
 constexpr QSize kPreviewUnits(120, 147);
@@ -88,9 +85,7 @@ PreferencesDialog::PreferencesDialog(QWidget* parent, const Preferences& setting
       sound_(surroundings.sound),
       pixelsPerUnit_(surroundings.pixelsPerUnit) {
     setWindowTitle(QStringLiteral("Preferences"));
-    QFont font = ScreenFont({.em = kFormText, .weight = kRegularWeight}, 1);
-    font.setPixelSize(std::max(11, static_cast<int>(std::lround(kFormText * pixelsPerUnit_))));
-    setFont(font);
+    setFont(FormFont(pixelsPerUnit_));
     pages_ = new QTabWidget;
     pages_->addTab(MakeGeneral(), QStringLiteral("General"));
     pages_->addTab(MakeCategories(), QStringLiteral("Categories"));

@@ -49,6 +49,8 @@ TEST(PasteText, ForeignNotationBecomesTokens) {
         {u"1.234", "1 2 3 4", kEuropean},
         {u"1 234 567.5 8", "1 2 3 4 5 6 7 . 5 × 8"},
         {u"3 4", "3 × 4"},
+        {u"=2*-3 1/7", "2 × (- ( 3 + 1 ÷ 7 ) )"},
+        {u"12 500/25000", "1 2 5 0 0 ÷ 2 5 0 0 0"},
         {u"1'234", "1 2 3 4"},
         {u"gcd(120,180)", "gcd( 1 2 0 , 1 8 0 )"},
         {u"sin(1,234)", "sin( 1 2 3 4 )"},
@@ -177,6 +179,15 @@ TEST(Clipboard, CopiesTheResultBehindEqualsAndAllItsDigits) {
         rig.Type(c.keys);
         EXPECT_EQ(copied(MENU_COPY_ALL_DIGITS).substr(0, 96), c.digits.substr(0, 96)) << c.keys;
     }
+    rig.Type("c 0-1-355/452=");
+    rig.display->Key(KEY_FRAC);
+    rig.Type("=");
+    EXPECT_EQ(copied(MENU_COPY_RESULT), "-1 355/452");
+    rig.Type("c");
+    PasteShortcut(*rig.display, clipboard);
+    rig.Type("*452=");
+    EXPECT_EQ(copied(MENU_COPY_ALL_DIGITS), "-807");
+    rig.display->Key(KEY_NORM);
     rig.Type("c 1+=");  // a message is no result
     CopyShortcut(*rig.display, clipboard, false);
     EXPECT_EQ(clipboard.content, u"1+");

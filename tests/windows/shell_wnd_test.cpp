@@ -88,6 +88,12 @@ TEST_F(ShellWndTest, EveryKeyOfEveryPageHasANameAndCanBePressedInEveryShape) {
                                          : EntryOf(category).ground == PageGround::upperWindow ? 20U
                                                                                                : 0U;
             EXPECT_GE(names.size(), expected) << category;
+            if (ModuleWnd* const page = window->Module(EntryOf(category).window);
+                page != nullptr && category > kLastPanelCategory) {
+                EXPECT_TRUE(PressCellNamed(*page, QStringLiteral("categories"))) << category;
+                EXPECT_TRUE(window->Chooser().isVisible());
+                window->Frame().CloseChooser();
+            }
             EXPECT_FALSE(window->grab().isNull());
         }
         Press(*window, Qt::Key_F9);

@@ -3,6 +3,7 @@
 #include <QFontDatabase>
 #include <QStringList>
 #include <algorithm>
+#include <cmath>
 
 namespace quorix {
 
@@ -39,6 +40,14 @@ QFont ScreenFont(const TextFont& text, int scale) {
     font.setStyleStrategy(
         static_cast<QFont::StyleStrategy>(QFont::PreferAntialias | QFont::NoSubpixelAntialias));
     font.setKerning(false);
+    return font;
+}
+
+QFont FormFont(double pixelsPerUnit) {
+    constexpr double kFormText = 10.5;
+    constexpr int kSmallestPixels = 11;
+    QFont font = ScreenFont({.em = kFormText, .weight = kRegularWeight}, 1);
+    font.setPixelSize(std::max(kSmallestPixels, static_cast<int>(std::lround(kFormText * pixelsPerUnit))));
     return font;
 }
 

@@ -32,4 +32,8 @@ bool LoadShippedFonts(const std::filesystem::path& folder);
 /// over "Roboto", "Noto Sans" and "DejaVu Sans". Kerning is off, so that a text is as wide as its signs.
 QFont ScreenFont(const TextFont& text, int scale);
 
+/// The font of dialogs and message boxes beside a window whose logical units are this many desktop points;
+/// never too small to read.
+QFont FormFont(double pixelsPerUnit);
+
 }  // namespace quorix
