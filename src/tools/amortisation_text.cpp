@@ -12,7 +12,7 @@ namespace {
 constexpr std::size_t kMonths = 12;
 
 std::u16string Separated(double value, int decimals, std::u16string_view numberLocale) {
-    std::u16string text = FixedText(value, decimals);
+    std::u16string text = WideFixedText(value, decimals);
     ApplySeparators(text, numberLocale, RADIX_DEC);
     return text;
 }
@@ -23,8 +23,8 @@ std::u16string Line(std::u16string_view label, double value, std::u16string_view
 
 ResultRow MortgageMonth(std::size_t year, std::size_t month, const MortgageRow& row) {
     return {IntegerText(static_cast<std::int64_t>(year)),
-            std::u16string(ShortMonthName(static_cast<std::int32_t>(month))), FixedText(row.prinPercent, 2),
-            FixedText(row.interest, 2), FixedText(row.balance, 2)};
+            std::u16string(ShortMonthName(static_cast<std::int32_t>(month))),
+            WideFixedText(row.prinPercent, 2), WideFixedText(row.interest, 2), WideFixedText(row.balance, 2)};
 }
 
 ResultRow MortgageTotals(std::size_t year, const std::vector<MortgageRow>& table) {
@@ -35,8 +35,9 @@ ResultRow MortgageTotals(std::size_t year, const std::vector<MortgageRow>& table
         interests += table[i].interest;
     }
     const std::size_t next = kMonths * year;
-    return {IntegerText(static_cast<std::int64_t>(year)), u"Totals", FixedText(percents * (1.0 / kMonths), 2),
-            FixedText(interests, 2), FixedText(next < table.size() ? table[next].balance : 0.0, 2)};
+    return {IntegerText(static_cast<std::int64_t>(year)), u"Totals",
+            WideFixedText(percents * (1.0 / kMonths), 2), WideFixedText(interests, 2),
+            WideFixedText(next < table.size() ? table[next].balance : 0.0, 2)};
 }
 
 }  // namespace
@@ -52,7 +53,7 @@ std::vector<ResultRow> LoanRows(const LoanPlan& plan, std::u16string_view number
     std::vector<ResultRow> rows;
     rows.reserve(plan.table.size());
     for (const LoanRow& row : plan.table) {
-        rows.push_back({IntegerText(static_cast<std::int64_t>(rows.size()) + 1), FixedText(row.years, 3),
+        rows.push_back({IntegerText(static_cast<std::int64_t>(rows.size()) + 1), WideFixedText(row.years, 3),
                         Separated(row.balance, 2, numberLocale), Separated(row.interest, 2, numberLocale),
                         Separated(row.principal, 2, numberLocale)});
     }

@@ -10,7 +10,7 @@ namespace quorix {
 namespace {
 
 std::u16string PercentText(float percentage) {
-    return FixedText(static_cast<double>(percentage), 1) + u"%";
+    return WideFixedText(static_cast<double>(percentage), 1) + u"%";
 }
 
 std::u16string FontTag(const BiorhythmCycle& cycle) {

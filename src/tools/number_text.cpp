@@ -46,7 +46,7 @@ std::u16string IntegerText(std::int64_t value) {
     return Widened(std::to_string(value));
 }
 
-std::u16string FixedText(double value, int decimals) {
+std::u16string WideFixedText(double value, int decimals) {
     return FloatingText(value, std::chars_format::fixed, decimals);
 }
 
