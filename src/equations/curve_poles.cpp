@@ -19,6 +19,7 @@ constexpr int kLongSearch = 15;
 // rises between two samples, and more than can be told from a pole.
 constexpr double kSteepRise = 1;
 constexpr double kPoleRise = 1000;
+constexpr double kNoise = 1e-9;
 
 /// Samples either side of the turn, in the order of the search, which starts where the curve rises to it.
 struct TurnPoints {
@@ -147,6 +148,8 @@ bool MayHoldPole(const GraphCurve& curve, std::size_t turn, GraphTurn kind) {
         return false;
     }
     const auto difference = [&y](std::size_t left) { return std::fabs(y[left + 1] - y[left]); };
+    // The functions are rounded to 12 decimals; turns of that size are noise.
+    if (difference(turn - 1) + difference(turn) < kNoise * (1.0 + std::fabs(y[turn]))) return false;
     const bool hasLeft = turn >= 2 && AreNeighbours(curve, turn - 2);
     const bool hasRight =
         turn + 2 < static_cast<std::size_t>(curve.pointCount) && AreNeighbours(curve, turn + 1);

@@ -79,18 +79,23 @@ class Walk {
     }
 
     void RunWhileGood(double limit) {
-        const std::size_t room = strip_.xValues.size();
+        // Copies, which stay in registers across the calls.
+        const std::span<double> xValues = strip_.xValues;
+        const std::span<double> yValues = strip_.yValues;
+        const double step = step_;
+        const double way = std::copysign(1.0, step);
+        CurveFunction& function = function_;
         std::size_t count = strip_.count;
         double x = end_.next;
         bool isGood = true;
-        while (IsOnTheWay(x, limit) && count < room) {
-            const std::optional<double> y = function_.At(x);
+        while (x * way <= limit * way && count < xValues.size()) {
+            const std::optional<double> y = function.At(x);
             isGood = y.has_value();
             if (!isGood) break;
-            strip_.xValues[count] = x;
-            strip_.yValues[count] = *y;
+            xValues[count] = x;
+            yValues[count] = *y;
             ++count;
-            x += step_;
+            x += step;
         }
         if (count > strip_.count) last_ = {strip_.xValues[count - 1], strip_.yValues[count - 1]};
         strip_.count = count;
