@@ -9,7 +9,7 @@
 #include <iostream>
 #include <optional>
 
-#include "equations/tex_translation.h"
+#include "equations/tex_for_copy.h"
 #include "platform/dense_picture.h"
 #include "platform/path.h"
 #include "platform/qt/pictures.h"
@@ -74,7 +74,7 @@ MainFrameWnd::~MainFrameWnd() = default;
 
 bool MainFrameWnd::Create() {
     led_ = std::make_unique<LedWnd>(this);
-    led_->SetTexConverter(ExpressionToTeX);
+    led_->SetTexConverter(TexForCopy);
     chooser_ = std::make_unique<ToolsPanelWnd>(*this, *this);
     frame_ = std::make_unique<CMainFrame>(CMainFrame::Surroundings{.folder = folder_,
                                                                    .host = *this,

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "equations/tex_for_copy.h"
+
 #include <algorithm>
 #include <vector>
 
@@ -99,6 +101,20 @@ TEST(TexTranslation, LongAndDeepTextsEndInAMessage) {
         EXPECT_LE(ExpressionToTeX(text).size(), kTexBufferSize) << ToUtf8(unit);
     }
     ClearAllVariables();
+}
+
+TEST(TexTranslation, CopiesUseTheCommandsOfTexSystems) {
+    const std::pair<const char16_t*, const char*> kCases[] = {
+        {u"sin(30)^2+pi", "{\\sin \\left( 30 \\right)}^{2}+\\pi "},
+        {u"sqrt(2*x)", "\\sqrt{ 2\\cdot x }"},
+        {u"3exp(-12)", "3\\cdot 10^{ -12 }"},
+        {u"2exp5", "2\\cdot 10^{5}"},
+        {u"asinh(1)-atan(x)", "\\operatorname{asinh}\\left( 1 \\right)-\\arctan \\left( x \\right)"},
+        {u"sqrt(sqrt(2", "\\sqrt{}\\left( \\sqrt{}\\left( 2"},
+    };
+    for (const auto& [line, tex] : kCases) {
+        EXPECT_EQ(TexForCopy(line), tex);
+    }
 }
 
 }  // namespace
