@@ -41,8 +41,13 @@ MorvaneCalNumberKeyboardWnd::MorvaneCalNumberKeyboardWnd(WindowBase& parent, Win
       pad_(kind, site.Frame().CurrentOrientation() == Orientation::landscape) {
     setFocusPolicy(Qt::NoFocus);
     LeaveFocusAlone(QApplication::focusWidget());
-    connect(qApp, &QApplication::focusChanged, this,
-            [this](QWidget* /*old*/, QWidget* now) { LeaveFocusAlone(now); });
+    focusWatch_ = connect(qApp, &QApplication::focusChanged, this,
+                          [this](QWidget* /*old*/, QWidget* now) { LeaveFocusAlone(now); });
+}
+
+MorvaneCalNumberKeyboardWnd::~MorvaneCalNumberKeyboardWnd() {
+    // The base gives up its focus when this part of the window has gone already.
+    disconnect(focusWatch_);
 }
 
 /// A press would pass the focus on to the parent; one on the proxy of the focus's owner leaves it there.

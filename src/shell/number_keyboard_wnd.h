@@ -17,6 +17,8 @@ class MorvaneCalNumberKeyboardWnd : public WindowBase, public CellSource {
     MorvaneCalNumberKeyboardWnd(WindowBase& parent, WindowBase& receiver, ModuleSite& site,
                                 PadKind kind = PadKind::numbers);
 
+    ~MorvaneCalNumberKeyboardWnd() override;
+
     /// Fills a place of the parent (logical units), which has room for the keys; they stand at its upper
     /// left.
     void LayOut(const Rect& place);
@@ -51,6 +53,7 @@ class MorvaneCalNumberKeyboardWnd : public WindowBase, public CellSource {
     NumberPad pad_;
     std::intptr_t padCookie_ = 0;
     int pressed_ = -1;
+    QMetaObject::Connection focusWatch_;
     std::array<QString, kPadCommandCells> commandNames_;
     QImage keys_;
     QImage functions_;
