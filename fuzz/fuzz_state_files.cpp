@@ -9,6 +9,7 @@
 #include <string>
 
 #include "frontends/display_file.h"
+#include "frontends/led_display.h"
 #include "platform/files.h"
 #include "shell/preferences.h"
 
