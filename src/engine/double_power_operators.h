@@ -31,26 +31,42 @@ double RealInverseRoot(double radicand, double degree);
 double RealScale(double factor, double exponent);
 double RealFactorial(double operand);
 double RealPercent(double operand);
-/// RealPower(base, 2).
-inline double RealSquare(double base) {
-    constexpr std::uint64_t kFraction = (std::uint64_t{1} << 52U) - 1;
-    constexpr std::uint64_t kMiddle = std::uint64_t{1} << 52U;
-    constexpr std::uint64_t kNearMiddle = kMiddle / 8;  // 1/16 of a unit of the last place.
-    // Far from underflow, and far below the powers that are refused.
-    constexpr double kSmallest = 0x1p-200;
-    constexpr double kLargest = 0x1p200;
+/// RealPower(base, exponent) for an exponent that is a small whole number, mostly by multiplication. The C
+/// library's pow is off by at most 0.55 units of the last place; so it is the nearest double, unless the
+/// power lies within 0.05 units of the middle of two doubles, where the library is asked.
+template <int exponent>
+double RealWholePower(double base) {
+    static_assert(exponent >= 2 && exponent <= 4);
     __extension__ using Wide = unsigned __int128;
-    // The C library's pow is off by at most 0.55 units of the last place; so it is the nearest double, which
-    // the product is, unless the square lies within 0.05 units of the middle of two doubles. The bits of the
-    // square that are rounded away tell: of 105 or 106 bits 53 stay, the rest is brought to 53 bits.
-    const std::uint64_t mantissa = (std::bit_cast<std::uint64_t>(base) & kFraction) | (kFraction + 1);
-    const Wide square = Wide{mantissa} * mantissa;
-    const unsigned lift = square >> 105U != 0 ? 0U : 1U;
-    const std::uint64_t rest = static_cast<std::uint64_t>(square << lift) & (2 * kFraction + 1);
-    const double magnitude = std::fabs(base);
-    const bool isNearest =
-        rest + kNearMiddle - kMiddle > 2 * kNearMiddle && magnitude > kSmallest && magnitude < kLargest;
-    return isNearest ? base * base : RealPower(base, 2.0);
+    constexpr int kFractionBits = 52;
+    constexpr int kBias = 1023;
+    // Mantissas of 64 bits, cut off: each product lacks less than two units, of which the double's last place
+    // has 2048.
+    constexpr int kSpareBits = 11;
+    constexpr std::uint64_t kSpare = (std::uint64_t{1} << kSpareBits) - 1;
+    constexpr std::uint64_t kMiddle = std::uint64_t{1} << (kSpareBits - 1);
+    constexpr std::uint64_t kNearMiddle = kMiddle / 8 + 2 * exponent;
+    // Far from underflow, and far below the powers that are refused.
+    constexpr int kLargestBinary = 400 / exponent;
+    const auto bits = std::bit_cast<std::uint64_t>(base);
+    const int binary = static_cast<int>(bits >> kFractionBits & 0x7FFU) - kBias;
+    if (binary < -kLargestBinary || binary > kLargestBinary) return RealPower(base, exponent);
+    const std::uint64_t mantissa = bits << kSpareBits | std::uint64_t{1} << 63U;
+    std::uint64_t power = mantissa;
+    int binaryOfPower = binary * exponent;
+    for (int i = 1; i < exponent; ++i) {
+        const Wide product = Wide{power} * mantissa;
+        const unsigned carry = static_cast<unsigned>(product >> 127U);
+        power = static_cast<std::uint64_t>(product >> (63U + carry));
+        binaryOfPower += static_cast<int>(carry);
+    }
+    const std::uint64_t rest = power & kSpare;
+    if (rest + kNearMiddle - kMiddle <= 2 * kNearMiddle) return RealPower(base, exponent);
+    // Rounding up may carry into the exponent, as it should.
+    const std::uint64_t rounded = (power >> kSpareBits) + (rest > kMiddle ? 1 : 0);
+    const std::uint64_t sign = exponent % 2 == 0 ? 0 : bits >> 63U << 63U;
+    return std::bit_cast<double>((static_cast<std::uint64_t>(binaryOfPower + kBias - 1) << kFractionBits) +
+                                 rounded + sign);
 }
 
 }  // namespace quorix

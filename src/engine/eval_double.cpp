@@ -1,9 +1,11 @@
 #include "engine/eval_double.h"
 
+#include <algorithm>
 #include <cmath>
 #include <numbers>
 
 #include "engine/double_operator_table.h"
+#include "engine/range_program.h"
 #include "engine/real_program.h"
 #include "engine/repeat_registers.h"
 
@@ -46,17 +48,24 @@ std::optional<DComplex> Walk(DoubleWorkspace& workspace, double boundValue) {
     return stack.depth > 0 ? stack.entries[0] : DComplex{};
 }
 
-// The fast lane first; where it must be left, the whole expression is walked again.
-std::optional<DComplex> Run(DoubleWorkspace& workspace, double boundValue) {
+bool HasFastLane(DoubleWorkspace& workspace) {
     if (workspace.realVersion != workspace.expression.Version()) {
         workspace.realVersion = workspace.expression.Version();
         workspace.real.Build(workspace.expression);
     }
-    if (!workspace.real.IsUsable()) return Walk(workspace, boundValue);
+    return workspace.real.IsUsable();
+}
+
+void KeepLastOperator(const RealProgram& program) {
+    if (!program.LastOperator().empty()) repeatRegisters().lastOperator = program.LastOperator();
+}
+
+// The fast lane first; where it must be left, the whole expression is walked again.
+std::optional<DComplex> Run(DoubleWorkspace& workspace, double boundValue) {
+    if (!HasFastLane(workspace)) return Walk(workspace, boundValue);
     const double value = workspace.real.Run(boundValue);
     if (std::isnan(value)) return Walk(workspace, boundValue);
-    const std::u16string_view lastOperator = workspace.real.LastOperator();
-    if (!lastOperator.empty()) repeatRegisters().lastOperator = lastOperator;
+    KeepLastOperator(workspace.real);
     return DComplex{value, 0.0};
 }
 
@@ -72,12 +81,14 @@ std::optional<DComplex> EvalToDouble(std::u16string_view text, std::u16string_vi
 
 struct DoubleSampler::Workspace : DoubleWorkspace {
     bool isCompiled = false;
+    RangeProgram ranges;
 };
 
 DoubleSampler::DoubleSampler(std::u16string_view text, std::u16string_view boundName, int radix)
     : workspace_(std::make_unique<Workspace>()) {
     workspace_->isCompiled = calcContext().calcError == 0 &&
                              workspace_->expression.Prepare(text, boundName, radix, DoubleOperatorTable());
+    if (workspace_->isCompiled) workspace_->ranges.Build(workspace_->expression);
 }
 
 DoubleSampler::~DoubleSampler() = default;
@@ -90,6 +101,31 @@ std::optional<DComplex> DoubleSampler::At(double boundValue) {
         return std::nullopt;
     }
     return Run(*workspace_, boundValue);
+}
+
+std::size_t DoubleSampler::RealValues(std::span<const double> x, std::span<double> y) {
+    if (calcContext().calcError != 0 || !workspace_->isCompiled || !HasFastLane(*workspace_)) return 0;
+    const RealProgram& program = workspace_->real;
+    std::size_t stored = 0;
+    while (stored < x.size()) {
+        const std::size_t count = std::min(RealProgram::kBlock, x.size() - stored);
+        const std::span<double> block = y.subspan(stored, count);
+        program.RunBlock(x.subspan(stored, count), block);
+        const auto isNone = [](double value) { return std::isnan(value); };
+        const auto good = static_cast<std::size_t>(std::ranges::find_if(block, isNone) - block.begin());
+        stored += good;
+        if (good < count) break;
+    }
+    if (stored > 0) KeepLastOperator(program);
+    return stored;
+}
+
+bool DoubleSampler::HasRanges() const {
+    return workspace_->ranges.IsUsable();
+}
+
+std::optional<ValueRange> DoubleSampler::RangeOver(const ValueRange& x) {
+    return HasRanges() ? workspace_->ranges.Over(x) : std::nullopt;
 }
 
 }  // namespace quorix

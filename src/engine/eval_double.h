@@ -2,10 +2,13 @@
 
 // The evaluator behind graphs, integrals and root searches: thousands of runs of one expression.
 
+#include <cstddef>
 #include <memory>
 #include <optional>
+#include <span>
 #include <string_view>
 
+#include "engine/range_operators.h"
 #include "numerics/qreal.h"
 
 namespace quorix {
@@ -26,6 +29,15 @@ class DoubleSampler {
     DoubleSampler& operator=(const DoubleSampler&) = delete;
 
     std::optional<DComplex> At(double boundValue);
+    /// Real values at points in a row, up to the first whose value takes more than real arithmetic, or fails:
+    /// how many are stored is returned, and At tells of the next one. y is as long as x. Nothing is stored
+    /// while a code stands in calcError.
+    std::size_t RealValues(std::span<const double> x, std::span<double> y);
+    /// Whether RangeOver can tell anything.
+    [[nodiscard]] bool HasRanges() const;
+    /// Range of the values between two points, or a wider one; unbounded when a pole may lie there. Nothing
+    /// where some values take more than real arithmetic.
+    std::optional<ValueRange> RangeOver(const ValueRange& x);
 
   private:
     struct Workspace;

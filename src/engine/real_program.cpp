@@ -16,16 +16,19 @@ namespace {
 constexpr std::int32_t kLaneDepth = 64;
 
 using Instruction = RealProgram::Instruction;
-using Handler = RealProgram::Handler;
+using Handlers = RealProgram::Handlers;
+
+constexpr std::size_t kBlock = RealProgram::kBlock;
 
 inline double GoOn(const Instruction* at, double* below, double last, double x) {
     ++at;
-    return at->handler(at, below, last, x);
+    return at->handlers.one(at, below, last, x);
 }
 
 double Finish(const Instruction* /*at*/, double* /*below*/, double last, double /*x*/) {
     return last;
 }
+constexpr Handlers kFinish{Finish, nullptr};
 
 // The first push stores a value that is never read.
 double PushBound(const Instruction* at, double* below, double last, double x) {
@@ -36,49 +39,77 @@ double PushConstant(const Instruction* at, double* below, double last, double x)
     *++below = last;
     return GoOn(at, below, at->constant, x);
 }
+double* PushBoundBlock(const Instruction& /*at*/, double* last, const double* x, std::size_t count) {
+    return std::copy_n(x, count, last + kBlock) - count;
+}
+double* PushConstantBlock(const Instruction& at, double* last, const double* /*x*/, std::size_t count) {
+    return std::fill_n(last + kBlock, count, at.constant) - count;
+}
+constexpr Handlers kPushBound{PushBound, PushBoundBlock};
+constexpr Handlers kPushConstant{PushConstant, PushConstantBlock};
 
 // Functions of the last operand, of the bound variable and of a constant, the latter two pushed by the way.
 // Those that are short are done in place, the others called.
 template <auto function>
-double Apply(const Instruction* at, double operand) {
+double Apply(const Instruction& at, double operand) {
     if constexpr (std::is_null_pointer_v<decltype(function)>) {
-        return at->function(operand);
+        return at.function(operand);
     } else {
         return function(operand);
     }
 }
 template <auto function>
 double OfLast(const Instruction* at, double* below, double last, double x) {
-    return GoOn(at, below, Apply<function>(at, last), x);
+    return GoOn(at, below, Apply<function>(*at, last), x);
 }
 template <auto function>
 double OfBound(const Instruction* at, double* below, double last, double x) {
     *++below = last;
-    return GoOn(at, below, Apply<function>(at, x), x);
+    return GoOn(at, below, Apply<function>(*at, x), x);
 }
 template <auto function>
 double OfConstant(const Instruction* at, double* below, double last, double x) {
     *++below = last;
-    return GoOn(at, below, Apply<function>(at, at->constant), x);
+    return GoOn(at, below, Apply<function>(*at, at->constant), x);
+}
+template <auto function>
+double* OfLastBlock(const Instruction& at, double* last, const double* /*x*/, std::size_t count) {
+    for (std::size_t i = 0; i < count; ++i) last[i] = Apply<function>(at, last[i]);
+    return last;
+}
+template <auto function>
+double* OfBoundBlock(const Instruction& at, double* last, const double* x, std::size_t count) {
+    last += kBlock;
+    for (std::size_t i = 0; i < count; ++i) last[i] = Apply<function>(at, x[i]);
+    return last;
+}
+template <auto function>
+double* OfConstantBlock(const Instruction& at, double* last, const double* /*x*/, std::size_t count) {
+    return std::fill_n(last + kBlock, count, Apply<function>(at, at.constant)) - count;
 }
 
 struct FunctionHandlers {
     RealFunction function;
-    Handler ofLast, ofBound, ofConstant;
+    Handlers ofLast, ofBound, ofConstant;
 };
 template <auto function>
 constexpr FunctionHandlers HandlersOfFunction() {
-    return {function, OfLast<function>, OfBound<function>, OfConstant<function>};
+    return {function,
+            {OfLast<function>, OfLastBlock<function>},
+            {OfBound<function>, OfBoundBlock<function>},
+            {OfConstant<function>, OfConstantBlock<function>}};
 }
 // The row without a function calls the instruction's.
 constexpr auto kFunctionHandlers = std::to_array<FunctionHandlers>(
-    {HandlersOfFunction<RealNegate>(), HandlersOfFunction<RealSquare>(), HandlersOfFunction<nullptr>()});
+    {HandlersOfFunction<RealNegate>(), HandlersOfFunction<RealWholePower<2>>(),
+     HandlersOfFunction<RealWholePower<3>>(), HandlersOfFunction<RealWholePower<4>>(),
+     HandlersOfFunction<nullptr>()});
 
 // Operations whose right operand is the last one, the bound variable or a constant.
 template <auto operation>
-double Apply(const Instruction* at, double left, double right) {
+double Apply(const Instruction& at, double left, double right) {
     if constexpr (std::is_null_pointer_v<decltype(operation)>) {
-        return at->operation(left, right);
+        return at.operation(left, right);
     } else {
         return operation(left, right);
     }
@@ -86,28 +117,56 @@ double Apply(const Instruction* at, double left, double right) {
 template <auto operation>
 double ByLast(const Instruction* at, double* below, double last, double x) {
     const double left = *below;
-    return GoOn(at, below - 1, Apply<operation>(at, left, last), x);
+    return GoOn(at, below - 1, Apply<operation>(*at, left, last), x);
 }
 template <auto operation>
 double ByBound(const Instruction* at, double* below, double last, double x) {
-    return GoOn(at, below, Apply<operation>(at, last, x), x);
+    return GoOn(at, below, Apply<operation>(*at, last, x), x);
 }
 template <auto operation>
 double ByConstant(const Instruction* at, double* below, double last, double x) {
-    return GoOn(at, below, Apply<operation>(at, last, at->constant), x);
+    return GoOn(at, below, Apply<operation>(*at, last, at->constant), x);
+}
+template <auto operation>
+double* ByLastBlock(const Instruction& at, double* last, const double* /*x*/, std::size_t count) {
+    double* left = last - kBlock;
+    for (std::size_t i = 0; i < count; ++i) left[i] = Apply<operation>(at, left[i], last[i]);
+    return left;
+}
+template <auto operation>
+double* ByBoundBlock(const Instruction& at, double* last, const double* x, std::size_t count) {
+    for (std::size_t i = 0; i < count; ++i) last[i] = Apply<operation>(at, last[i], x[i]);
+    return last;
+}
+template <auto operation>
+double* ByConstantBlock(const Instruction& at, double* last, const double* /*x*/, std::size_t count) {
+    const double right = at.constant;
+    for (std::size_t i = 0; i < count; ++i) last[i] = Apply<operation>(at, last[i], right);
+    return last;
 }
 
 struct OperationHandlers {
     RealOperation operation;
-    Handler byLast, byBound, byConstant;
+    Handlers byLast, byBound, byConstant;
 };
 template <auto operation>
 constexpr OperationHandlers HandlersOfOperation() {
-    return {operation, ByLast<operation>, ByBound<operation>, ByConstant<operation>};
+    return {operation,
+            {ByLast<operation>, ByLastBlock<operation>},
+            {ByBound<operation>, ByBoundBlock<operation>},
+            {ByConstant<operation>, ByConstantBlock<operation>}};
 }
 constexpr auto kOperationHandlers = std::to_array<OperationHandlers>(
     {HandlersOfOperation<RealAdd>(), HandlersOfOperation<RealSubtract>(), HandlersOfOperation<RealMultiply>(),
      HandlersOfOperation<RealDivide>(), HandlersOfOperation<nullptr>()});
+
+// Null for exponents that have no function of their own.
+RealFunction WholePower(double exponent) {
+    return exponent == 2.0   ? RealWholePower<2>
+           : exponent == 3.0 ? RealWholePower<3>
+           : exponent == 4.0 ? RealWholePower<4>
+                             : nullptr;
+}
 
 }  // namespace
 
@@ -122,7 +181,7 @@ void RealProgram::Build(const DoubleExpression& expression) {
     pushed_ = Pushed::nothing;
     bases_.Clear();
     if (AppendAll(expression) && depth_ == 1) {
-        instructions_.push_back({Finish});
+        instructions_.push_back({kFinish});
     } else {
         instructions_.clear();
     }
@@ -168,7 +227,7 @@ void RealProgram::AppendFunction(RealFunction function) {
     if (pushed_ == Pushed::nothing) {
         instructions_.push_back({handlers.ofLast});
     } else {
-        instructions_.back().handler = pushed_ == Pushed::constant ? handlers.ofConstant : handlers.ofBound;
+        instructions_.back().handlers = pushed_ == Pushed::constant ? handlers.ofConstant : handlers.ofBound;
     }
     instructions_.back().function = function;
     pushed_ = Pushed::nothing;
@@ -176,11 +235,13 @@ void RealProgram::AppendFunction(RealFunction function) {
 
 void RealProgram::AppendBinary(RealOperation operation) {
     --depth_;
-    if (operation == RealPower && pushed_ == Pushed::constant && instructions_.back().constant == 2.0) {
-        instructions_.pop_back();
-        pushed_ = Pushed::nothing;
-        AppendFunction(RealSquare);
-        return;
+    if (operation == RealPower && pushed_ == Pushed::constant) {
+        if (const RealFunction power = WholePower(instructions_.back().constant)) {
+            instructions_.pop_back();
+            pushed_ = Pushed::nothing;
+            AppendFunction(power);
+            return;
+        }
     }
     const OperationHandlers& handlers = *std::ranges::find_if(
         kOperationHandlers,
@@ -188,7 +249,7 @@ void RealProgram::AppendBinary(RealOperation operation) {
     if (pushed_ == Pushed::nothing) {
         instructions_.push_back({handlers.byLast});
     } else {
-        instructions_.back().handler = pushed_ == Pushed::constant ? handlers.byConstant : handlers.byBound;
+        instructions_.back().handlers = pushed_ == Pushed::constant ? handlers.byConstant : handlers.byBound;
     }
     instructions_.back().operation = operation;
     pushed_ = Pushed::nothing;
@@ -196,7 +257,7 @@ void RealProgram::AppendBinary(RealOperation operation) {
 
 bool RealProgram::AppendPush(Pushed pushed, double constant) {
     if (depth_ >= kLaneDepth) return false;
-    instructions_.push_back({pushed == Pushed::constant ? PushConstant : PushBound, constant});
+    instructions_.push_back({pushed == Pushed::constant ? kPushConstant : kPushBound, constant});
     pushed_ = pushed;
     ++depth_;
     return true;
@@ -205,7 +266,17 @@ bool RealProgram::AppendPush(Pushed pushed, double constant) {
 double RealProgram::Run(double x) const {
     std::array<double, kLaneDepth + 2> stack;
     const Instruction* first = instructions_.data();
-    return first->handler(first, stack.data(), 0.0, x);
+    return first->handlers.one(first, stack.data(), 0.0, x);
+}
+
+// The columns lie one behind the other; the first is never used.
+void RealProgram::RunBlock(std::span<const double> x, std::span<double> y) const {
+    std::array<double, (kLaneDepth + 1) * kBlock> columns;
+    double* last = columns.data();
+    for (const Instruction* at = instructions_.data(); at->handlers.block != nullptr; ++at) {
+        last = at->handlers.block(*at, last, x.data(), x.size());
+    }
+    std::copy_n(last, y.size(), y.data());
 }
 
 }  // namespace quorix

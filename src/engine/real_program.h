@@ -4,7 +4,9 @@
 // every value is real; where one is not, or an operator fails, the evaluator walks the complex way instead,
 // which gives the same bits.
 
+#include <cstddef>
 #include <cstdint>
+#include <span>
 #include <vector>
 
 #include "engine/compiled_expression.h"
@@ -22,12 +24,22 @@ using DoubleExpression = CompiledExpression<DComplex, DoubleNumber>;
 
 class RealProgram {
   public:
+    /// Points that are done at once.
+    static constexpr std::size_t kBlock = 32;
+
     struct Instruction;
     /// Does an instruction and all that follow, and gives the result: each handler ends in a call of the
     /// next, which compilers turn into a jump. below: the operands under the last one; x: the bound variable.
     using Handler = double (*)(const Instruction* at, double* below, double last, double x);
+    /// Does one instruction for `count` points at once. An operand is a column of kBlock values; last: the
+    /// column of the last operand. Returns the one that is the last then.
+    using BlockHandler = double* (*)(const Instruction& at, double* last, const double* x, std::size_t count);
+    struct Handlers {
+        Handler one;
+        BlockHandler block;
+    };
     struct Instruction {
-        Handler handler;
+        Handlers handlers;
         double constant = 0.0;
         RealFunction function = nullptr;
         RealOperation operation = nullptr;
@@ -40,6 +52,8 @@ class RealProgram {
     [[nodiscard]] bool IsUsable() const { return !instructions_.empty(); }
     /// Value at x; not a number when the lane must be left. The program must be usable.
     [[nodiscard]] double Run(double x) const;
+    /// The same at up to kBlock points; y is as long as x.
+    void RunBlock(std::span<const double> x, std::span<double> y) const;
     /// Name of the last operator, empty when there is none.
     [[nodiscard]] std::u16string_view LastOperator() const { return lastOperator_; }
 

@@ -1,8 +1,10 @@
 #pragma once
 
 #include <cmath>
+#include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -27,9 +29,21 @@ class CurveFunction {
         ClearError(value.has_value());
         return std::nullopt;
     }
+    /// Values at points in a row, up to the first at which At has to tell: how many are stored is returned. y
+    /// is as long as x.
+    std::size_t Values(std::span<const double> x, std::span<double> y) {
+        const std::size_t count = sampler_.RealValues(x, y);
+        evaluations_ += count;
+        return count;
+    }
+    /// Whether RangeOver can tell anything of this function.
+    [[nodiscard]] bool HasRanges() const { return sampler_.HasRanges(); }
+    /// Range of the values over [from, to], or a wider one; unbounded when a pole may lie there. Nothing
+    /// where it cannot be told.
+    std::optional<ValueRange> RangeOver(double from, double to) { return sampler_.RangeOver({from, to}); }
     /// The text that is evaluated.
     [[nodiscard]] const std::u16string& Text() const { return text_; }
-    /// How often At has been called.
+    /// At how many points a value was asked for.
     [[nodiscard]] std::uint64_t Evaluations() const { return evaluations_; }
 
   private:

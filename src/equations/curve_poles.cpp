@@ -1,8 +1,10 @@
 #include "equations/curve_poles.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <limits>
+#include <optional>
 #include <span>
 
 #include "equations/curve_sampling.h"
@@ -160,6 +162,102 @@ bool MayHoldPole(const GraphCurve& curve, std::size_t turn, GraphTurn kind) {
                                        : !steepensBefore && steepensBehind;
 }
 
+// Poles about the turns among the samples [first, last].
+void MarkPolesAtTurns(GraphCurve& curve, std::size_t first, std::size_t last) {
+    const auto& y = curve.yValues;
+    const std::size_t end = std::min(last + 1, static_cast<std::size_t>(curve.pointCount) - 1);
+    for (std::size_t i = std::max<std::size_t>(first, 1); i < end; ++i) {
+        // Most samples are no turns.
+        const double before = y[i] - y[i - 1];
+        if (before * (y[i + 1] - y[i]) < 0 && MayHoldPole(curve, i, TurnOf(before, y[i], y[i + 1]))) {
+            MarkPoleAbout(curve, i);
+        }
+    }
+}
+
+/// Finds a pole between two points: halves the interval as long as the range of the values is unbounded, and
+/// lets the values about the place that remains tell a pole from a gap that can be closed, as in sin(x)/x.
+class RangeSearch {
+  public:
+    explicit RangeSearch(CurveFunction& function) : function_(function) {}
+
+    bool FindsPole(double from, double to) {
+        if (looks_++ >= kMostLooks) {
+            isTold_ = false;
+            return false;
+        }
+        const std::optional<ValueRange> range = function_.RangeOver(from, to);
+        if (!range) isTold_ = false;
+        if (!range || range->IsBounded()) return false;
+        const double middle = (from + to) * 0.5;
+        if (to - from < kPlaceWidth || middle == from || middle == to) return GrowsTowards(middle);
+        return FindsPole(from, middle) || FindsPole(middle, to);
+    }
+    /// Whether the ranges told all; where they do not, there are complex values on the way, or so many poles
+    /// or so wide ranges that the search gave up.
+    [[nodiscard]] bool IsTold() const { return isTold_; }
+
+  private:
+    static constexpr int kMostLooks = 400;
+    static constexpr double kPlaceWidth = 1e-9;
+    // Distances from the place, far above its width and above where rounding to 12 decimals makes noise.
+    static constexpr std::array<double, 3> kDistances = {1e-3, 1e-4, 1e-5};
+    // A growth that can be seen.
+    static constexpr double kLeastGrowth = 0.05;
+    // A logarithm grows by the same with each distance, powers by more; what is smooth by a tenth or less.
+    static constexpr double kKeptGrowth = 0.25;
+
+    // Sums and differences of the values on both sides, so that neither hides the other and slopes do not
+    // count.
+    bool GrowsTowards(double place) {
+        std::array<double, kDistances.size()> sums{};
+        std::array<double, kDistances.size()> differences{};
+        for (std::size_t i = 0; i < kDistances.size(); ++i) {
+            const std::optional<double> before = function_.At(place - kDistances[i]);
+            const std::optional<double> behind = function_.At(place + kDistances[i]);
+            if (!before || !behind) return false;
+            if (!std::isfinite(*before) || !std::isfinite(*behind)) return true;
+            sums[i] = *behind + *before;
+            differences[i] = *behind - *before;
+        }
+        return Grows(sums) || Grows(differences);
+    }
+
+    static bool Grows(const std::array<double, kDistances.size()>& heights) {
+        const double early = std::fabs(heights[1] - heights[0]);
+        const double late = std::fabs(heights[2] - heights[1]);
+        return late > kLeastGrowth && late >= kKeptGrowth * early;
+    }
+
+    CurveFunction& function_;
+    int looks_ = 0;
+    bool isTold_ = true;
+};
+
+void MarkSegment(GraphCurve& curve, std::size_t segment) {
+    const double from = curve.xValues[segment - 1];
+    const double to = curve.xValues[segment];
+    if (to - from > kHoleWidth) return;
+    RangeSearch search(*curve.function);
+    if (search.FindsPole(from, to)) {
+        curve.isBehindPole[segment] = true;
+    } else if (!search.IsTold()) {
+        MarkPolesAtTurns(curve, segment - 1, segment);
+    }
+}
+
+// Whole stretches of a curve without poles are passed with one look.
+void MarkPolesByRanges(GraphCurve& curve, std::size_t first, std::size_t last) {
+    if (first >= last) return;
+    const std::optional<ValueRange> range =
+        curve.function->RangeOver(curve.xValues[first], curve.xValues[last]);
+    if (range && range->IsBounded()) return;
+    if (last - first == 1) return MarkSegment(curve, last);
+    const std::size_t middle = first + (last - first) / 2;
+    MarkPolesByRanges(curve, first, middle);
+    MarkPolesByRanges(curve, middle, last);
+}
+
 }  // namespace
 
 GraphTurn TurnOf(double slope, double before, double after) {
@@ -170,18 +268,14 @@ GraphTurn TurnOf(double slope, double before, double after) {
 
 void MarkPoles(GraphCurve& curve, std::size_t from, std::size_t to) {
     const auto count = static_cast<std::size_t>(curve.pointCount);
+    if (count < 2) return;
     // The samples at the ends of the range may be turns only now that they have neighbours.
-    const std::size_t first = std::max<std::size_t>(from, 2) - 1;
-    if (first >= to || first + 1 >= count) return;
-    const auto& y = curve.yValues;
-    double before = y[first] - y[first - 1];
-    for (std::size_t i = first; i < to && i + 1 < count; ++i) {
-        const double after = y[i + 1] - y[i];
-        // Most samples are no turns.
-        if (before * after < 0 && MayHoldPole(curve, i, TurnOf(before, y[i], y[i + 1]))) {
-            MarkPoleAbout(curve, i);
-        }
-        before = after;
+    const std::size_t first = std::max<std::size_t>(from, 1) - 1;
+    const std::size_t last = std::min(to, count - 1);
+    if (curve.function->HasRanges()) {
+        MarkPolesByRanges(curve, first, last);
+    } else {
+        MarkPolesAtTurns(curve, first, last);
     }
 }
 

@@ -12,6 +12,8 @@ namespace {
 
 // Width to which a domain edge is bisected.
 constexpr double kEdgeWidth = 1e-10;
+// Points that are evaluated together.
+constexpr std::size_t kBlock = 64;
 // Neighbours that lie further apart than this have a hole between them.
 constexpr double kLargestSpacing = kSampleStep * 1.5;
 
@@ -79,28 +81,30 @@ class Walk {
     }
 
     void RunWhileGood(double limit) {
-        // Copies, which stay in registers across the calls.
-        const std::span<double> xValues = strip_.xValues;
-        const std::span<double> yValues = strip_.yValues;
-        const double step = step_;
-        const double way = std::copysign(1.0, step);
-        CurveFunction& function = function_;
-        std::size_t count = strip_.count;
-        double x = end_.next;
-        bool isGood = true;
-        while (x * way <= limit * way && count < xValues.size()) {
-            const std::optional<double> y = function.At(x);
-            isGood = y.has_value();
-            if (!isGood) break;
-            xValues[count] = x;
-            yValues[count] = *y;
-            ++count;
-            x += step;
-        }
-        if (count > strip_.count) last_ = {strip_.xValues[count - 1], strip_.yValues[count - 1]};
-        strip_.count = count;
-        end_.next = x;
-        if (!isGood) EnterHole();
+        std::array<double, kBlock> xValues;
+        std::array<double, kBlock> yValues;
+        do {
+            const std::span<const double> x = NextPoints(xValues, limit);
+            const std::size_t count = function_.Values(x, yValues);
+            for (std::size_t i = 0; i < count; ++i) Store({x[i], yValues[i]});
+            if (count == x.size()) {
+                end_.next = x.back() + step_;
+                continue;
+            }
+            end_.next = x[count];
+            const std::optional<double> y = function_.At(end_.next);
+            if (!y) return EnterHole();
+            Store({end_.next, *y});
+            end_.next += step_;
+        } while (IsOnTheWay(end_.next, limit) && !strip_.IsFull());
+    }
+
+    // The first of them is on the way.
+    std::span<const double> NextPoints(std::span<double, kBlock> points, double limit) const {
+        const std::size_t most = std::min(kBlock, strip_.xValues.size() - strip_.count);
+        std::size_t count = 0;
+        for (double x = end_.next; count < most && IsOnTheWay(x, limit); x += step_) points[count++] = x;
+        return points.first(count);
     }
 
     // Seen from the left, the first good point is where the curve starts, edge or not; to the left of a

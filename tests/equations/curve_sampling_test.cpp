@@ -5,6 +5,7 @@
 #include <cmath>
 #include <random>
 
+#include "equations/curve_poles.h"
 #include "equations/graph_drawing.h"
 #include "equations/graph_view.h"
 #include "support/engine_fixture.h"
@@ -172,8 +173,35 @@ TEST_F(CurveSamplingTest, NoLineCrossesAPole) {
                 {u"3+0.01/x^2", 0},
                 {u"1/(x+1)^3-90", -1},
                 {u"1/sqrt(abs(x))", 0},
-                {u"20+1/cos(x)", M_PI / 2}};
+                {u"20+1/cos(x)", M_PI / 2},
+                {u"ln(x^2)", 0},
+                {u"x-0.2*log(abs(x-1))", 1},
+                {u"sqrt(x^2)+1/ln(x^2+1)", 0},
+                {u"csc(x)+sec(x)", 0},
+                {u"30-ctanh(x)^2", 0},
+                {u"exp(1/x)", 0},
+                {u"5 iexp(0-1/(x+2))", -2},
+                {u"(x^2-1)/(x^2-3*x+2)", 2},
+                {u"7+csch(x)-atan(1/x)", 0},
+                {u"4 root(abs(x))*x^(0-1)", 0},
+                {u"1/(x mod 7)+1/(x-1)", 1}};
     for (const auto& row : rows) {
+        // Close to the ends, where there is no slope yet.
+        for (const double steps : {0.001, 0.3, 0.99, 1.5, 2.2}) {
+            for (const double span : {1.0, -1.0}) {
+                GraphCurve curve(row.text, u"x", 0);
+                const double near = row.pole - std::copysign(steps * kSampleStep, span);
+                SampleCurve(curve, std::min(near, near + span), std::max(near, near + span));
+                const auto x = Abscissas(curve);
+                const auto behind =
+                    static_cast<std::size_t>(std::ranges::upper_bound(x, row.pole) - x.begin());
+                if (behind == 0 || behind == x.size()) continue;
+                EXPECT_TRUE(curve.isBehindPole[behind] || x[behind] - x[behind - 1] < 1e-9 ||
+                            TurnOf(behind > 1 ? curve.yValues[behind - 1] - curve.yValues[behind - 2] : 1.0,
+                                   curve.yValues[behind - 1], curve.yValues[behind]) == GraphTurn::suppressed)
+                    << Narrow(row.text) << ' ' << steps << ' ' << span;
+            }
+        }
         for (int k = 0; k < 40; ++k) {
             GraphView view;
             GraphSetSurface(view, 468, 508, 2);
@@ -194,7 +222,9 @@ TEST_F(CurveSamplingTest, SmoothTurnsCuspsAndPeaksStayJoinedAndCostNothing) {
         std::u16string_view text;
         std::uint64_t searches;  ///< evaluations beside the samples at most
     } rows[] = {
-        {u"x^2+1", 0}, {u"3+sin(x)", 0}, {u"3+cos(3*x)", 0}, {u"1/(x^2+0.01)", 60}, {u"1+abs(x-1)", 60}};
+        {u"x^2+1", 0},      {u"3+sin(x)", 0},      {u"3+cos(3*x)", 0},      {u"1/(x^2+0.01)", 0},
+        {u"1+abs(x-1)", 0}, {u"1/(x^2-2*x+2)", 0}, {u"sin(x-1)/(x-1)", 20}, {u"(1-cos(x))/x", 20},
+        {u"x*ln(x^2)", 20}, {u"atan(1/x)", 0},     {u"2^x-tanh(9*x)", 0}};
     for (const auto& row : rows) {
         const GraphCurve curve = Sampled(row.text, -4, 4);
         EXPECT_FALSE(std::ranges::any_of(curve.isBehindPole, std::identity{})) << Narrow(row.text);
