@@ -74,12 +74,12 @@ std::int64_t UnitsApart(double distance, std::int32_t pixelsPerUnit) {
     return units;
 }
 
-// Calls add(value, pixel) for the multiples of `units` on [0, size), value counting along the pixels.
+// Calls add(value, pixel) for the multiples of `units` on [least, end), value counting along the pixels.
 template <class Add>
-void ForEachLabel(std::int32_t origin, std::int32_t pixelsPerUnit, std::int64_t units, std::int32_t size,
-                  const Add& add) {
+void ForEachLabel(std::int32_t origin, std::int32_t pixelsPerUnit, std::int64_t units, double least,
+                  double end, const Add& add) {
     const double spacing = static_cast<double>(units * pixelsPerUnit);
-    for (double index = std::ceil(-origin / spacing); origin + index * spacing < size; ++index) {
+    for (double index = std::ceil((least - origin) / spacing); origin + index * spacing < end; ++index) {
         if (index != 0) add(index * static_cast<double>(units), origin + index * spacing);
     }
 }
@@ -97,19 +97,22 @@ std::vector<GraphRun> GraphLabels(const GraphView& view) {
     const double scale = view.screenScale;
     const auto append = [&](double value, const auto& placeFor) {
         const std::string text = GraphFieldText(value);
-        const std::vector<GraphRun> strokes = TextStrokes(text, placeFor(WidthOf(text, scale)), scale);
+        const double width = WidthOf(text, scale);
+        const GraphPoint place = placeFor(width);
+        // Half a number would be another number.
+        if (place.x < 0 || place.x + width > view.surfaceWidth) return;
+        const std::vector<GraphRun> strokes = TextStrokes(text, place, scale);
         runs.insert(runs.end(), strokes.begin(), strokes.end());
     };
     const double bottom = view.surfaceHeight - (kMargin + kHeight) * scale;
     ForEachLabel(view.AxisX(), view.pixelsPerUnitX, UnitsApart(kLeastDistanceX * scale, view.pixelsPerUnitX),
-                 view.surfaceWidth, [&](double value, double x) {
+                 0, view.surfaceWidth, [&](double value, double x) {
                      append(value, [&](double width) { return GraphPoint{x - width / 2, bottom}; });
                  });
     // The lowest place belongs to the labels along the bottom.
-    const auto lowest = static_cast<std::int32_t>(bottom - kHeight * scale);
     ForEachLabel(
-        view.AxisY(), view.pixelsPerUnitY, UnitsApart(kLeastDistanceY * scale, view.pixelsPerUnitY), lowest,
-        [&](double value, double y) {
+        view.AxisY(), view.pixelsPerUnitY, UnitsApart(kLeastDistanceY * scale, view.pixelsPerUnitY),
+        kHeight * scale, bottom - kHeight * scale, [&](double value, double y) {
             append(-value, [&](double) { return GraphPoint{kMargin * scale, y - kHeight / 2 * scale}; });
         });
     return runs;

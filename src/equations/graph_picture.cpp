@@ -11,7 +11,8 @@ namespace quorix {
 namespace {
 
 constexpr double kHalfPixel = 0.5;
-constexpr double kOpaque = 255.0;
+// Logical units.
+constexpr double kLabelMargin = 1.5;
 
 /// A picture that lines are laid on with smooth edges.
 class Canvas {
@@ -120,12 +121,18 @@ DecodedPicture DrawGraphPicture(const GraphView& view, ColorRef background, Colo
     Canvas canvas(view.surfaceWidth, view.surfaceHeight, background);
     for (const GraphLine& line : GraphAxes(view)) canvas.Line(line, kGridColour);
     for (const GraphLine& line : GraphTicks(view)) canvas.Line(line, kGridColour);
-    for (const GraphRun& stroke : GraphLabels(view)) canvas.Stroke(stroke, kLabelWidth * view.screenScale);
-    canvas.Paint(ink);
     for (const GraphCurve& curve : view.curves) {
         for (const GraphRun& run : GraphRuns(view, curve)) canvas.Stroke(run, kCurveWidth * view.screenScale);
         canvas.Paint(curve.colour);
     }
+    // Labels keep a margin of background about them, so that curves do not run through their digits.
+    const std::vector<GraphRun> labels = GraphLabels(view);
+    const auto label = [&](double width, ColorRef colour) {
+        for (const GraphRun& stroke : labels) canvas.Stroke(stroke, width * view.screenScale);
+        canvas.Paint(colour);
+    };
+    label(kLabelWidth + 2 * kLabelMargin, background);
+    label(kLabelWidth, ink);
     return canvas.Take();
 }
 
