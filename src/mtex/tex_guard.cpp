@@ -55,8 +55,10 @@ struct FunctionWord {
     std::string_view command;
 };
 
+// Operators that are words stand apart from their operands.
 constexpr auto kFunctionWords = std::to_array<FunctionWord>({
     {"acos", "\\arccos "},
+    {"and", "\\ \\text{and}\\ "},
     {"asin", "\\arcsin "},
     {"atan", "\\arctan "},
     {"cos", "\\cos "},
@@ -67,12 +69,23 @@ constexpr auto kFunctionWords = std::to_array<FunctionWord>({
     {"gcd", "\\gcd "},
     {"ln", "\\ln "},
     {"log", "\\log "},
+    {"mod", "\\ \\text{mod}\\ "},
+    {"nand", "\\ \\text{nand}\\ "},
+    {"nor", "\\ \\text{nor}\\ "},
+    {"or", "\\ \\text{or}\\ "},
+    {"pi", "\\pi "},
+    {"root", "\\ \\text{root}\\ "},
+    {"rtl", "\\ \\text{rtl}\\ "},
+    {"rtr", "\\ \\text{rtr}\\ "},
     {"sec", "\\sec "},
+    {"shl", "\\ \\text{shl}\\ "},
+    {"shr", "\\ \\text{shr}\\ "},
     {"sin", "\\sin "},
     {"sinh", "\\sinh "},
     {"sqrt", "\\sqrt "},
     {"tan", "\\tan "},
     {"tanh", "\\tanh "},
+    {"xor", "\\ \\text{xor}\\ "},
 });
 
 constexpr std::string_view kSigns = "\\%,;:! {}|#$&_";
@@ -82,6 +95,7 @@ constexpr bool IsLetter(char c) {
 }
 
 constexpr std::string_view kRoot = "sqrt";
+constexpr std::string_view kText = "\\text{";
 constexpr std::string_view kLineBreak = "\\\\";
 constexpr std::string_view kOpening = "\\left(";
 constexpr std::string_view kClosing = "\\right)";
@@ -110,6 +124,13 @@ std::string PreparedGroup(std::string_view tex, int depth) {
             at += kLineBreak.size();
             continue;
         }
+        if (tex.substr(at).starts_with(kText)) {
+            // Words within are words.
+            const std::size_t close = std::min(tex.find('}', at), tex.size());
+            prepared.append(tex, at, close - at);
+            at = close;
+            continue;
+        }
         if (end == at) {
             prepared.push_back(tex[at++]);
             continue;
@@ -121,6 +142,7 @@ std::string PreparedGroup(std::string_view tex, int depth) {
         at = end;
         if (function == kFunctionWords.end() || isCommand || word != kRoot) continue;
         // The argument of a root is a group.
+        at = std::min(tex.find_first_not_of(' ', at), tex.size());
         const std::size_t close = depth < kDeepestRoot ? ClosingDelimiter(tex, at) : tex.npos;
         if (close == tex.npos) continue;
         const std::string radicand =

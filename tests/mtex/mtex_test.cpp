@@ -38,6 +38,9 @@ TEST(TexGuard, LetsMathematicsPassAndNothingElse) {
     EXPECT_EQ(PreparedTex(R"(sqrt\left( sqrt\left( x \right)+(1) \right)y)"),
               R"(\nosmash \sqrt { \sqrt { x }+(1) }y)");
     EXPECT_EQ(PreparedTex(R"(a\\input\\\right)"), R"(\nosmash a\\ input\\ \right)");
+    EXPECT_EQ(PreparedTex(R"(2pi mod \text{sin or pi} x)"),
+              R"(\nosmash 2\pi  \ \text{mod}\  \text{sin or pi} x)");
+    EXPECT_EQ(PreparedTex(R"(sqrt \left( x \right))"), R"(\nosmash \sqrt { x })");
     EXPECT_EQ(PreparedTex(R"(sqrt\left( x)"), R"(\nosmash \sqrt \left( x)");
 }
 
