@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
+#include <vector>
 
 namespace quorix::mtex {
 namespace {
@@ -94,6 +96,10 @@ constexpr bool IsLetter(char c) {
     return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
 }
 
+constexpr bool IsBlank(std::string_view text) {
+    return text.find_first_not_of(' ') == text.npos;
+}
+
 constexpr std::string_view kRoot = "sqrt";
 constexpr std::string_view kText = "\\text{";
 constexpr std::string_view kLineBreak = "\\\\";
@@ -101,57 +107,113 @@ constexpr std::string_view kOpening = "\\left(";
 constexpr std::string_view kClosing = "\\right)";
 constexpr int kDeepestRoot = 64;
 
-/// The "\right)" that closes a "\left(" at `at`; npos when none stands there or it stays open.
-std::size_t ClosingDelimiter(std::string_view tex, std::size_t at) {
-    if (!tex.substr(at).starts_with(kOpening)) return tex.npos;
-    int depth = 0;
+/// Behind the group of a root whose "\left(" stands at `at`, and where its delimiter starts: the same place
+/// when it stays open, which is at the end of the text or of the group around it.
+struct Radicand {
+    std::size_t close;
+    std::size_t end;
+};
+
+Radicand FindRadicand(std::string_view tex, std::size_t at) {
+    int delimiters = 0;
+    int braces = 0;
     for (; at < tex.size(); ++at) {
         const std::string_view rest = tex.substr(at);
-        if (rest.starts_with(kOpening)) ++depth;
-        if (rest.starts_with(kClosing) && --depth == 0) return at;
+        if (rest.starts_with(kOpening)) ++delimiters;
+        if (rest.starts_with(kClosing) && --delimiters == 0) return {at, at + kClosing.size()};
+        if (rest.front() == '{') ++braces;
+        if (rest.front() == '}' && --braces < 0) break;
     }
-    return tex.npos;
+    return {at, at};
 }
 
-std::string PreparedGroup(std::string_view tex, int depth) {
-    std::string prepared;
-    for (std::size_t at = 0; at < tex.size();) {
-        std::size_t end = at;
-        while (end < tex.size() && IsLetter(tex[end])) ++end;
-        if (tex.substr(at).starts_with(kLineBreak)) {
-            // The rasteriser must not take the second backslash for that of a command.
-            prepared.append(kLineBreak).append(" ");
-            at += kLineBreak.size();
-            continue;
+/// Writes a text anew for the rasteriser. A line that is being typed keeps its look: roots that stay open are
+/// drawn, and delimiters without a partner.
+class Preparation {
+  public:
+    Preparation(std::string_view tex, int depth) : tex_(tex), depth_(depth) {}
+
+    std::string Run() {
+        while (at_ < tex_.size()) {
+            if (Takes(kLineBreak)) {
+                // The rasteriser must not take the second backslash for that of a command.
+                prepared_.push_back(' ');
+            } else if (Starts(kText)) {
+                textEnd_ = std::min(tex_.find('}', at_), tex_.size());
+                Takes(kText);
+            } else if (Starts(kClosing) && open_.back() == 0) {
+                // It would become an arrow.
+                prepared_.push_back(')');
+                at_ += kClosing.size();
+            } else if (Takes(kOpening)) {
+                ++open_.back();
+                // Empty parentheses would not be drawn.
+                if (IsBlank(Before(kClosing))) prepared_.append("\\ ");
+            } else if (IsLetter(tex_[at_])) {
+                TakeWord();
+            } else {
+                TakeSign();
+            }
         }
-        if (tex.substr(at).starts_with(kText)) {
-            // Words within are words.
-            const std::size_t close = std::min(tex.find('}', at), tex.size());
-            prepared.append(tex, at, close - at);
-            at = close;
-            continue;
-        }
-        if (end == at) {
-            prepared.push_back(tex[at++]);
-            continue;
-        }
-        const std::string_view word = tex.substr(at, end - at);
-        const auto function = std::ranges::find(kFunctionWords, word, &FunctionWord::word);
-        const bool isCommand = at > 0 && tex[at - 1] == '\\';
-        prepared.append(isCommand || function == kFunctionWords.end() ? word : function->command);
-        at = end;
-        if (function == kFunctionWords.end() || isCommand || word != kRoot) continue;
-        // The argument of a root is a group.
-        at = std::min(tex.find_first_not_of(' ', at), tex.size());
-        const std::size_t close = depth < kDeepestRoot ? ClosingDelimiter(tex, at) : tex.npos;
-        if (close == tex.npos) continue;
-        const std::string radicand =
-            PreparedGroup(tex.substr(at + kOpening.size(), close - at - kOpening.size()), depth + 1);
-        prepared.append("{").append(radicand).append("}");
-        at = close + kClosing.size();
+        return std::move(prepared_);
     }
-    return prepared;
-}
+
+  private:
+    [[nodiscard]] bool Starts(std::string_view part) const { return tex_.substr(at_).starts_with(part); }
+
+    /// What stands before the next `part`, or to the end.
+    [[nodiscard]] std::string_view Before(std::string_view part) const {
+        return tex_.substr(at_, tex_.find(part, at_) - at_);
+    }
+
+    bool Takes(std::string_view part) {
+        if (!Starts(part)) return false;
+        prepared_.append(part);
+        at_ += part.size();
+        return true;
+    }
+
+    void TakeSign() {
+        if (Starts("\\left")) ++open_.back();
+        if (Starts("\\right")) --open_.back();
+        if (tex_[at_] == '{') open_.push_back(0);
+        if (tex_[at_] == '}' && open_.size() > 1) open_.pop_back();
+        prepared_.push_back(tex_[at_++]);
+    }
+
+    void TakeWord() {
+        const std::size_t start = at_;
+        while (at_ < tex_.size() && IsLetter(tex_[at_])) ++at_;
+        const std::string_view word = tex_.substr(start, at_ - start);
+        const auto function = std::ranges::find(kFunctionWords, word, &FunctionWord::word);
+        const bool isCommand = start > 0 && tex_[start - 1] == '\\';
+        if (isCommand || start < textEnd_ || function == kFunctionWords.end()) {
+            prepared_.append(word);
+            return;
+        }
+        prepared_.append(function->command);
+        if (word == kRoot) TakeRadicand();
+    }
+
+    /// The argument of a root becomes a group.
+    void TakeRadicand() {
+        at_ = std::min(tex_.find_first_not_of(' ', at_), tex_.size());
+        if (depth_ >= kDeepestRoot || !Starts(kOpening)) return;
+        const Radicand radicand = FindRadicand(tex_, at_);
+        at_ += kOpening.size();
+        const std::string_view inside = tex_.substr(at_, radicand.close - at_);
+        const std::string drawn = IsBlank(inside) ? "?" : Preparation(inside, depth_ + 1).Run();
+        prepared_.append("{").append(drawn).append("}");
+        at_ = radicand.end;
+    }
+
+    std::string_view tex_;
+    int depth_;
+    std::size_t at_ = 0;
+    std::size_t textEnd_ = 0;      ///< words before it are plain text
+    std::vector<int> open_ = {0};  ///< delimiters that are open in each group around the place
+    std::string prepared_;
+};
 
 }  // namespace
 
@@ -176,7 +238,7 @@ bool IsHarmlessTex(std::string_view tex) {
 }
 
 std::string PreparedTex(std::string_view tex) {
-    return "\\nosmash " + PreparedGroup(tex, 0);  // Without it "=-" runs together.
+    return "\\nosmash " + Preparation(tex, 0).Run();  // Without it "=-" runs together.
 }
 
 }  // namespace quorix::mtex
