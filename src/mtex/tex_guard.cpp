@@ -67,7 +67,7 @@ constexpr auto kFunctionWords = std::to_array<FunctionWord>({
     {"cosh", "\\cosh "},
     {"csc", "\\csc "},
     {"det", "\\det "},
-    {"exp", "\\exp "},
+    {"exp", "\\ \\exp\\ "},
     {"gcd", "\\gcd "},
     {"ln", "\\ln "},
     {"log", "\\log "},
@@ -100,6 +100,11 @@ constexpr bool IsBlank(std::string_view text) {
     return text.find_first_not_of(' ') == text.npos;
 }
 
+constexpr bool IsOperandStart(char c) {
+    return IsLetter(c) || (c >= '0' && c <= '9');
+}
+
+constexpr std::string_view kGap = "\\ ";
 constexpr std::string_view kRoot = "sqrt";
 constexpr std::string_view kText = "\\text{";
 constexpr std::string_view kLineBreak = "\\\\";
@@ -107,8 +112,8 @@ constexpr std::string_view kOpening = "\\left(";
 constexpr std::string_view kClosing = "\\right)";
 constexpr int kDeepestRoot = 64;
 
-/// Behind the group of a root whose "\left(" stands at `at`, and where its delimiter starts: the same place
-/// when it stays open, which is at the end of the text or of the group around it.
+/// Where the delimiter that closes a root's argument starts and ends. One that stays open ends with the text
+/// or the group around it.
 struct Radicand {
     std::size_t close;
     std::size_t end;
@@ -145,10 +150,6 @@ class Preparation {
                 // It would become an arrow.
                 prepared_.push_back(')');
                 at_ += kClosing.size();
-            } else if (Takes(kOpening)) {
-                ++open_.back();
-                // Empty parentheses would not be drawn.
-                if (IsBlank(Before(kClosing))) prepared_.append("\\ ");
             } else if (IsLetter(tex_[at_])) {
                 TakeWord();
             } else {
@@ -161,11 +162,6 @@ class Preparation {
   private:
     [[nodiscard]] bool Starts(std::string_view part) const { return tex_.substr(at_).starts_with(part); }
 
-    /// What stands before the next `part`, or to the end.
-    [[nodiscard]] std::string_view Before(std::string_view part) const {
-        return tex_.substr(at_, tex_.find(part, at_) - at_);
-    }
-
     bool Takes(std::string_view part) {
         if (!Starts(part)) return false;
         prepared_.append(part);
@@ -174,25 +170,50 @@ class Preparation {
     }
 
     void TakeSign() {
-        if (Starts("\\left")) ++open_.back();
-        if (Starts("\\right")) --open_.back();
-        if (tex_[at_] == '{') open_.push_back(0);
-        if (tex_[at_] == '}' && open_.size() > 1) open_.pop_back();
+        if (tex_[at_] == '\\') {
+            const std::string_view command = WordAt(at_ + 1);
+            if (command == "left") ++open_.back();
+            if (command == "right") --open_.back();
+            // An escaped brace is no group.
+            if (command.empty() && at_ + 1 < tex_.size()) prepared_.push_back(tex_[at_++]);
+        } else if (tex_[at_] == '{') {
+            open_.push_back(0);
+        } else if (tex_[at_] == '}' && open_.size() > 1) {
+            open_.pop_back();
+        }
         prepared_.push_back(tex_[at_++]);
     }
 
-    void TakeWord() {
-        const std::size_t start = at_;
-        while (at_ < tex_.size() && IsLetter(tex_[at_])) ++at_;
-        const std::string_view word = tex_.substr(start, at_ - start);
+    [[nodiscard]] std::string_view WordAt(std::size_t start) const {
+        const std::string_view rest = tex_.substr(start);
+        return {rest.begin(), std::ranges::find_if_not(rest, IsLetter)};
+    }
+
+    /// The command for a word; the word itself when there is none.
+    [[nodiscard]] std::string_view CommandAt(std::size_t start) const {
+        const std::string_view word = WordAt(start);
         const auto function = std::ranges::find(kFunctionWords, word, &FunctionWord::word);
-        const bool isCommand = start > 0 && tex_[start - 1] == '\\';
-        if (isCommand || start < textEnd_ || function == kFunctionWords.end()) {
-            prepared_.append(word);
-            return;
+        return function != kFunctionWords.end() ? function->command : word;
+    }
+
+    void TakeWord() {
+        const std::string_view word = WordAt(at_);
+        const bool isName = at_ >= textEnd_ && (at_ == 0 || tex_[at_ - 1] != '\\');
+        prepared_.append(isName ? CommandAt(at_) : word);
+        at_ += word.size();
+        if (isName && word == kRoot) {
+            TakeRadicand();
+        } else if (isName && word.size() > 1) {
+            TakeGap();
         }
-        prepared_.append(function->command);
-        if (word == kRoot) TakeRadicand();
+    }
+
+    /// The blank between the name of a function and an operand without parentheses is drawn.
+    void TakeGap() {
+        const std::size_t next = std::min(tex_.find_first_not_of(' ', at_), tex_.size());
+        if (next == at_ || next == tex_.size() || !IsOperandStart(tex_[next])) return;
+        at_ = next;
+        if (!prepared_.ends_with(kGap) && !CommandAt(next).starts_with(kGap)) prepared_.append(kGap);
     }
 
     /// The argument of a root becomes a group.
