@@ -13,6 +13,9 @@ namespace {
 constexpr std::string_view kOpen = "\\left(";
 constexpr std::string_view kClose = "\\right)";
 constexpr std::string_view kText = "\\text{";
+/// The gap before a differential has a form that only the rasteriser reads.
+constexpr std::string_view kDifferential = "\\hspace1d";
+constexpr std::string_view kCopiedDifferential = "\\,d ";
 
 /// Words with a command of their own; other words become \operatorname.
 constexpr std::pair<std::string_view, std::string_view> kCommands[] = {
@@ -70,7 +73,10 @@ std::string CommandOf(std::string_view word, std::string_view& rest) {
 std::string Commands(std::string_view rest) {
     std::string result;
     while (!rest.empty()) {
-        if (rest.front() == '\\') {
+        if (rest.starts_with(kDifferential)) {
+            result += kCopiedDifferential;
+            rest.remove_prefix(kDifferential.size());
+        } else if (rest.front() == '\\') {
             // A command, or an escaped sign.
             std::size_t length = 1;
             while (length < rest.size() && IsLetter(rest[length])) {
