@@ -11,10 +11,11 @@
 
 namespace quorix {
 
-/// TeX of a call of the named function `row` for the text between its parentheses; nothing for a function
-/// that is written as it is typed, or when arguments are missing. translate: the translation of an argument,
-/// and the name that is bound in it or an empty one; that name itself is not handed over for translation.
+/// The translation of an argument, given the name that is bound in it, or an empty one.
 using TranslateArgument = std::function<std::string(std::string_view argument, std::string_view boundName)>;
+
+/// TeX of a call of the named function `row` for the text between its parentheses; nothing for a function
+/// that is written as it is typed, or when arguments are missing. A bound name itself is not translated.
 std::optional<std::string> CallToTeX(NamedFunction row, std::string_view arguments,
                                      const TranslateArgument& translate);
 

@@ -131,42 +131,37 @@ std::size_t SkipBlanks(std::string_view text, std::size_t at) {
     return std::min(text.find_first_not_of(' ', at), text.size());
 }
 
+/// Behind a number, a name, a call or a group at `at`; npos when there is none or it stays open.
+std::size_t PrimaryEnd(std::string_view text, std::size_t at) {
+    if (text.substr(at).starts_with('(')) return GroupEnd(text, at, '(', ')');
+    if (text.substr(at).starts_with('[')) return GroupEnd(text, at, '[', ']');
+    std::size_t end = WordEnd(text, at);
+    if (end == at || WordSyntax(text.substr(at, end - at)).role == TokenRole::binary) return text.npos;
+    const std::size_t next = SkipBlanks(text, end);
+    if (text.substr(next).starts_with('(')) return GroupEnd(text, next, '(', ')');
+    while (end < text.size() && (text[end] == '.' || IsWordAt(text, end))) ++end;
+    return end;
+}
+
 /// Behind the operand of a prefix word that binds tightly, "!" and "%" taken in; npos when there is none.
 std::size_t PrefixOperandEnd(std::string_view text, std::size_t at) {
-    std::size_t end = text.npos;
-    while (end == text.npos) {
-        at = SkipBlanks(text, at);
-        if (at == text.size()) return text.npos;
-        if (text[at] == '(' || text[at] == '[') {
-            end = text[at] == '(' ? GroupEnd(text, at, '(', ')') : GroupEnd(text, at, '[', ']');
-            if (end == text.npos) return end;
-            break;
-        }
-        const std::size_t wordEnd = WordEnd(text, at);
-        const TokenSyntax word = WordSyntax(text.substr(at, wordEnd - at));
-        if (wordEnd == at || word.role == TokenRole::binary) return text.npos;
-        if (word.role == TokenRole::operand) {
-            const std::size_t next = SkipBlanks(text, wordEnd);
-            const bool isCall = next < text.size() && text[next] == '(';
-            end = wordEnd;
-            while (end < text.size() && (text[end] == '.' || IsWordAt(text, end))) ++end;
-            if (isCall) end = GroupEnd(text, next, '(', ')');
-            if (end == text.npos) return end;
-        } else if (word.level <= kQuotientLevel) {
-            return RightOperandEnd(text, at, kRootLevel);
-        }
-        at = wordEnd;
-    }
+    constexpr std::string_view kPercent = "\\%";
+    at = SkipBlanks(text, at);
     for (;;) {
-        const std::size_t next = SkipBlanks(text, end);
-        if (text.substr(next).starts_with('!')) {
-            end = next + 1;
-        } else if (text.substr(next).starts_with("\\%")) {
-            end = next + 2;
-        } else {
-            return end;
-        }
+        const std::size_t end = WordEnd(text, at);
+        const TokenSyntax word = WordSyntax(text.substr(at, end - at));
+        if (word.role != TokenRole::prefix) break;
+        if (word.level <= kQuotientLevel) return RightOperandEnd(text, at, kRootLevel);
+        at = SkipBlanks(text, end);
     }
+    std::size_t end = PrimaryEnd(text, at);
+    while (end != text.npos) {
+        const std::size_t next = SkipBlanks(text, end);
+        const std::string_view rest = text.substr(next);
+        if (!rest.starts_with('!') && !rest.starts_with(kPercent)) break;
+        end = next + (rest.front() == '!' ? 1 : kPercent.size());
+    }
+    return end;
 }
 
 /// How one operator becomes a group: opening, left operand, middle, right operand, "}".
