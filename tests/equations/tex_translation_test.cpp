@@ -129,6 +129,7 @@ TEST(TexTranslation, CopiesUseTheCommandsOfTexSystems) {
         {u"sqrt(2*x)", "\\sqrt{ 2\\cdot x }"},
         {u"3exp(-12)", "3\\cdot 10^{ -12 }"},
         {u"2exp5", "2\\cdot 10^{5}"},
+        {u"2 exp e+2 exp 3!", "2 \\operatorname{exp} e+2 \\operatorname{exp} 3!"},
         {u"fnInt(x,x,0,1)", "\\int_{0}^{1}{\\left(x\\right)}\\,d x"},
         {u"asinh(1)-atan(x)", "\\operatorname{asinh}\\left( 1 \\right)-\\arctan \\left( x \\right)"},
         {u"sqrt(sqrt(2", "\\sqrt{}\\left( \\sqrt{}\\left( 2"},
