@@ -1,5 +1,6 @@
 #include "equations/equation_page.h"
 
+#include <algorithm>
 #include <optional>
 
 #include "engine/calc_context.h"
@@ -75,7 +76,27 @@ void TranslateRoots(std::string& text) {
     }
 }
 
-/// Takes out the parentheses that a reader does not need: those around no sum, delimiters excepted.
+bool IsWord(char c) {
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '.';
+}
+
+/// Whether the parentheses at `open` and `close` change how the text is read: those of a call, round a sum,
+/// round a sign behind an operator, and round more than one number or name before what applies to it alone.
+bool AreNeeded(std::string_view text, std::size_t open, std::size_t close) {
+    const std::string_view before = text.substr(0, open);
+    const std::string_view inside = text.substr(open + 1, close - open - 1);
+    const std::string_view behind = text.substr(close + 1);
+    if (before.ends_with("\\left") || IsSum(inside)) return true;
+    if (!before.empty() && IsWord(before.back())) return true;
+    const bool startsGroup =
+        before.empty() || before.ends_with('{') || before.ends_with('(') || before.ends_with("*=*");
+    if (inside.starts_with('-') && !startsGroup) return true;
+    const bool isApplied = behind.starts_with('^') || behind.starts_with("}^") || behind.starts_with('!') ||
+                           behind.starts_with("\\%");
+    return isApplied && !std::ranges::all_of(inside, IsWord);
+}
+
+/// Takes out the parentheses that a reader does not need.
 void DropParentheses(std::string& text) {
     std::vector<std::size_t> open;
     std::vector<std::size_t> dropped;
@@ -84,8 +105,7 @@ void DropParentheses(std::string& text) {
         if (text[at] != ')' || open.empty()) continue;
         const std::size_t start = open.back();
         open.pop_back();
-        if (std::string_view(text).substr(0, start).ends_with("\\left")) continue;
-        if (IsSum(std::string_view(text).substr(start + 1, at - start - 1))) continue;
+        if (AreNeeded(text, start, at)) continue;
         dropped.push_back(start);
         dropped.push_back(at);
     }
@@ -96,6 +116,7 @@ void DropParentheses(std::string& text) {
 /// The passes over an equation's text; nothing when it is too long for them.
 std::optional<std::string> EquationToTeX(std::u16string_view text) {
     std::string tex = NarrowToTeX(text);
+    EncloseRadicands(tex);
     TranslatePowers(tex);
     TranslateToTeX(tex);
     if (tex.size() >= kTexBufferSize) return std::nullopt;

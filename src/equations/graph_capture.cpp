@@ -49,7 +49,12 @@ std::filesystem::path NextCaptureName(const std::filesystem::path& folder) {
     for (const std::filesystem::path& file : ListFiles(folder, u"Capture *.bmp")) {
         greatest = std::max(greatest, NumberOf(file));
     }
-    return folder / ("Capture " + std::to_string(greatest + 1) + ".bmp");
+    std::filesystem::path name;
+    std::error_code error;
+    do {
+        name = folder / ("Capture " + std::to_string(++greatest) + ".bmp");
+    } while (std::filesystem::exists(name, error));
+    return name;
 }
 
 DecodedPicture CaptureGraph(const GraphView& view, std::int32_t width, std::int32_t height,

@@ -13,6 +13,9 @@ namespace {
 constexpr std::string_view kOpen = "\\left(";
 constexpr std::string_view kClose = "\\right)";
 constexpr std::string_view kText = "\\text{";
+/// The gap before a differential has a form that only the rasteriser reads.
+constexpr std::string_view kDifferential = "\\hspace1d";
+constexpr std::string_view kCopiedDifferential = "\\,d ";
 
 /// Words with a command of their own; other words become \operatorname.
 constexpr std::pair<std::string_view, std::string_view> kCommands[] = {
@@ -53,13 +56,26 @@ std::string_view TakeOperand(std::string_view& rest) {
     return start.substr(0, length);
 }
 
+/// Whether what stands before `text` is only a part of an operand.
+bool ContinuesOperand(std::string_view text) {
+    text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
+    return text.starts_with('!') || text.starts_with("\\%") || text.starts_with('_') || text.starts_with('^');
+}
+
 std::string Commands(std::string_view rest);
 
 /// A word of more than one letter, with its operand where the command takes that as an argument.
 std::string CommandOf(std::string_view word, std::string_view& rest) {
-    if (word == "sqrt" || word == "exp") {
-        const std::string operand = Commands(TakeOperand(rest));
-        return (word == "sqrt" ? "\\sqrt{" : "\\cdot 10^{") + operand + "}";
+    if (word == "sqrt") {
+        return "\\sqrt{" + Commands(TakeOperand(rest)) + "}";
+    }
+    if (word == "exp") {
+        std::string_view behind = rest;
+        const std::string_view exponent = TakeOperand(behind);
+        if (!exponent.empty() && !ContinuesOperand(behind)) {
+            rest = behind;
+            return "\\cdot 10^{" + Commands(exponent) + "}";
+        }
     }
     const auto* const known = std::find_if(std::begin(kCommands), std::end(kCommands),
                                            [word](const auto& row) { return row.first == word; });
@@ -70,7 +86,10 @@ std::string CommandOf(std::string_view word, std::string_view& rest) {
 std::string Commands(std::string_view rest) {
     std::string result;
     while (!rest.empty()) {
-        if (rest.front() == '\\') {
+        if (rest.starts_with(kDifferential)) {
+            result += kCopiedDifferential;
+            rest.remove_prefix(kDifferential.size());
+        } else if (rest.front() == '\\') {
             // A command, or an escaped sign.
             std::size_t length = 1;
             while (length < rest.size() && IsLetter(rest[length])) {

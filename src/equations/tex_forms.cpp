@@ -101,12 +101,14 @@ bool IsMarker(std::string_view pattern, std::size_t at) {
 }  // namespace
 
 std::optional<std::string> CallToTeX(NamedFunction row, std::string_view argumentText,
-                                     const std::function<std::string(std::string_view)>& translate) {
+                                     const TranslateArgument& translate) {
     const std::vector<std::string_view> arguments = SplitArguments(argumentText);
     const CallForm* form = FindForm(row, arguments.size());
     if (form == nullptr) return std::nullopt;
     const std::string_view pattern =
         row == NAMED_RT && Trimmed(arguments[0]) == "2" ? kSquareRoot : form->pattern;
+    const bool binds = pattern.find("@2") != pattern.npos;
+    const std::string_view boundName = binds ? Trimmed(arguments[1]) : std::string_view();
     std::string text;
     for (std::size_t at = 0; at < pattern.size(); ++at) {
         if (!IsMarker(pattern, at)) {
@@ -114,16 +116,33 @@ std::optional<std::string> CallToTeX(NamedFunction row, std::string_view argumen
             continue;
         }
         const char marker = pattern[at];
-        const std::string_view argument = Trimmed(arguments[static_cast<std::size_t>(pattern[++at] - '1')]);
+        const auto index = static_cast<std::size_t>(pattern[++at] - '1');
+        const std::string_view argument = Trimmed(arguments[index]);
         if (marker == '@') {
             text.append(argument);
             continue;
         }
-        const std::string translated = translate(argument);
+        const std::string translated = translate(argument, index == 0 ? boundName : std::string_view());
         const bool braces = marker == '_' && translated.size() != 1;
         text.append(braces ? "{" : "").append(translated).append(braces ? "}" : "");
     }
     return text;
+}
+
+FormHold HoldOf(NamedFunction row) {
+    switch (row) {
+        case NAMED_FN_PRODUCT: return FormHold::product;
+        case NAMED_FN_INT:
+        case NAMED_FN_SUM:
+        case NAMED_SUM:
+        case NAMED_SSQ:
+        case NAMED_DSQ: return FormHold::sum;
+        case NAMED_RT:
+        case NAMED_SDV:
+        case NAMED_SSD:
+        case NAMED_GM: return FormHold::whole;
+        default: return FormHold::script;
+    }
 }
 
 std::string_view OpenCallToTeX(NamedFunction row) {

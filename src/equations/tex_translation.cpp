@@ -6,8 +6,10 @@
 #include <cstdio>
 #include <functional>
 #include <optional>
+#include <vector>
 
 #include "engine/format_value.h"
+#include "engine/keyword_table.h"
 #include "engine/named_functions.h"
 #include "engine/text_fold.h"
 #include "engine/variable_store.h"
@@ -78,16 +80,76 @@ std::size_t OpenBraces(std::string_view text) {
     return depth;
 }
 
-void Translate(std::string& text, int depth);
+bool IsWord(char c) {
+    return static_cast<unsigned char>(c) < 0x80 && IsWordCharacter(static_cast<char16_t>(c));
+}
+
+// Levels of binding of what stands behind a form or a value.
+constexpr int kSumLevel = 2;
+constexpr int kProductLevel = 4;
+constexpr int kPowerLevel = 9;  // Raised signs belong to what stands right before them.
+
+/// How tightly the operator at the start of `rest` binds; 0 where none stands.
+int LevelBehind(std::string_view rest) {
+    rest.remove_prefix(std::min(rest.find_first_not_of(' '), rest.size()));
+    if (rest.starts_with("^") || rest.starts_with("}^{")) return kPowerLevel;
+    if (rest.starts_with("\\%")) rest.remove_prefix(1);
+    const auto* const end = std::ranges::find_if_not(rest, IsWord);
+    const std::string_view token =
+        end != rest.begin() ? std::string_view(rest.begin(), end) : rest.substr(0, 1);
+    std::u16string lower(token.begin(), token.end());
+    std::ranges::transform(lower, lower.begin(), FoldLower);
+    const TokenSyntax syntax = SyntaxOf(lower);
+    const bool isOperator = syntax.role == TokenRole::binary || syntax.role == TokenRole::postfix;
+    return isOperator ? syntax.level : 0;
+}
+
+bool NeedsParentheses(FormHold hold, int levelBehind) {
+    switch (hold) {
+        case FormHold::whole: return false;
+        case FormHold::script: return levelBehind == kPowerLevel;
+        case FormHold::sum: return levelBehind > kSumLevel && levelBehind != kProductLevel;
+        default: return levelBehind > kSumLevel;
+    }
+}
+
+/// Where a text stands: within how many calls, and the name that is bound there.
+struct Scope {
+    int depth = 0;
+    std::string_view boundName;
+    const Scope* outer = nullptr;
+};
+
+/// A bound name may be written with brackets, as names of variables are.
+bool IsBound(std::string_view name, const Scope& scope) {
+    const auto equals = [](char a, char b) {
+        return FoldLower(static_cast<char16_t>(a)) == FoldLower(static_cast<char16_t>(b));
+    };
+    for (const Scope* at = &scope; at != nullptr; at = at->outer) {
+        std::string_view bound = at->boundName;
+        if (bound.starts_with('[') && bound.ends_with(']')) bound = bound.substr(1, bound.size() - 2);
+        if (std::ranges::equal(bound, name, equals)) return true;
+    }
+    return false;
+}
+
+/// A part of a text that is translated already.
+struct Span {
+    std::size_t start;
+    std::size_t end;
+};
+
+void Translate(std::string& text, const Scope& scope);
 
 /// Goes over the calls from the outside inward. What is put in is translated already and is passed over; the
-/// arguments of a call that stays are looked at in their turn.
-void TranslateCalls(std::string& text, int depth) {
-    const auto translateArgument = [depth](std::string_view argument) {
+/// arguments of a call that stays are looked at in their turn. Result: what was put in, in order.
+std::vector<Span> TranslateCalls(std::string& text, const Scope& scope) {
+    const auto translateArgument = [&scope](std::string_view argument, std::string_view boundName) {
         std::string translated(argument);
-        Translate(translated, depth + 1);
+        Translate(translated, {scope.depth + 1, boundName, &scope});
         return translated;
     };
+    std::vector<Span> forms;
     for (std::size_t at = 0; (at = text.find('(', at)) != text.npos && text.size() < kTexBufferSize;) {
         const std::optional<Call> call = CallAt(text, at);
         ++at;
@@ -97,15 +159,20 @@ void TranslateCalls(std::string& text, int depth) {
             text.resize(call->start);
             text.append(OpenCallToTeX(call->row))
                 .append(OpenBraces(std::string_view(text).substr(0, call->start)), '}');
-            return;
+            return forms;
         }
         const std::string_view arguments =
             std::string_view(text).substr(call->open + 1, close - call->open - 1);
         if (const auto form = CallToTeX(call->row, arguments, translateArgument)) {
-            text.replace(call->start, close + 1 - call->start, *form);
-            at = call->start + form->size();
+            const bool encloses =
+                NeedsParentheses(HoldOf(call->row), LevelBehind(std::string_view(text).substr(close + 1)));
+            const std::string put = encloses ? "\\left(" + *form + "\\right)" : *form;
+            text.replace(call->start, close + 1 - call->start, put);
+            at = call->start + put.size();
+            forms.push_back({call->start, at});
         }
     }
+    return forms;
 }
 
 std::string RealText(const QReal& value) {
@@ -128,28 +195,27 @@ std::string MatrixText(const CalcValue& matrix) {
     return text + "\\end{matrix}\\right]";
 }
 
-/// Whether a negative value needs parentheses: everywhere but at the start of the text or of a group, and as
-/// the base of a power there too.
-bool NeedsParentheses(std::string_view text, std::size_t start, std::size_t end) {
-    const std::size_t before = text.substr(0, start).find_last_not_of(' ');
-    const bool startsGroup = before == text.npos || std::string_view("({=,").find(text[before]) != text.npos;
-    return !startsGroup || text.substr(end).starts_with("}^{") || text.substr(end).starts_with("^");
+/// Whether a value with a sign in it needs parentheses: everywhere but at the start of the text or of a
+/// group, and there too before an operator that would apply to its last part alone.
+bool NeedsParentheses(std::string_view before, std::string_view behind, bool isSum) {
+    const std::size_t last = before.find_last_not_of(' ');
+    const bool startsGroup =
+        last == before.npos || std::string_view("({=,").find(before[last]) != before.npos;
+    const int level = LevelBehind(behind);
+    return !startsGroup || (level > kSumLevel && (isSum || level != kProductLevel));
 }
 
-std::string ValueText(const CalcValue& value, std::string_view text, std::size_t start, std::size_t end) {
+std::string ValueText(const CalcValue& value, std::string_view before, std::string_view behind) {
     if (value.kind == KIND_MATRIX) return MatrixText(value);
     std::string number = RealText(value.number.re);
-    if (value.kind == KIND_COMPLEX) {
+    const bool isComplex = value.kind == KIND_COMPLEX;
+    if (isComplex) {
         const std::string imaginary = RealText(value.number.im);
         number += (imaginary.starts_with('-') ? "" : "+") + imaginary + "i";
     } else if (!number.starts_with('-')) {
         return number;
     }
-    return NeedsParentheses(text, start, end) ? "(" + number + ")" : number;
-}
-
-bool IsWord(char c) {
-    return static_cast<unsigned char>(c) < 0x80 && IsWordCharacter(static_cast<char16_t>(c));
+    return NeedsParentheses(before, behind, isComplex) ? "(" + number + ")" : number;
 }
 
 /// Slot of a variable's name, in capitals, or in any case between brackets; -1 for another word.
@@ -161,30 +227,46 @@ int SlotOf(std::string_view word, bool bracketed) {
     return FindVariable(wide);
 }
 
-void SubstituteValues(std::string& text) {
-    for (std::size_t at = 0; at < text.size() && text.size() < kTexBufferSize; ++at) {
-        if (!IsWord(text[at])) continue;
-        std::size_t start = at;
-        while (at < text.size() && IsWord(text[at])) ++at;
-        std::size_t end = at;
-        const bool bracketed = start > 0 && text[start - 1] == '[' && end < text.size() && text[end] == ']';
-        if (start > 0 && text[start - 1] == '\\') continue;
-        const int slot = SlotOf(std::string_view(text).substr(start, end - start), bracketed);
-        if (slot < 0) continue;
-        if (bracketed) {
-            --start;
-            ++end;
+/// Values for the names of variables outside of `forms`.
+void SubstituteValues(std::string& text, const std::vector<Span>& forms, const Scope& scope) {
+    const std::string_view source = text;
+    std::string result;
+    auto form = forms.begin();
+    for (std::size_t at = 0; at < source.size() && result.size() < kTexBufferSize;) {
+        if (form != forms.end() && at == form->start) {
+            result.append(source, at, form->end - at);
+            at = form++->end;
+            continue;
         }
-        const std::string value = ValueText(Variable(slot), text, start, end);
-        text.replace(start, end - start, value);
-        at = start + value.size() - 1;
+        const std::size_t start = at;
+        const std::size_t limit = form != forms.end() ? form->start : source.size();
+        while (at < limit && IsWord(source[at])) ++at;
+        if (at == start) {
+            result.push_back(source[at++]);
+            continue;
+        }
+        const std::string_view word = source.substr(start, at - start);
+        const bool bracketed = result.ends_with('[') && source.substr(at).starts_with(']');
+        const bool isCommand = result.ends_with('\\');
+        const int slot = isCommand || IsBound(word, scope) ? -1 : SlotOf(word, bracketed);
+        if (slot < 0) {
+            result.append(word);
+            continue;
+        }
+        if (bracketed) {
+            result.pop_back();
+            ++at;
+        }
+        result += ValueText(Variable(slot), result, source.substr(at));
     }
+    text = std::move(result);
 }
 
-void Translate(std::string& text, int depth) {
+void Translate(std::string& text, const Scope& scope) {
     TranslateFractions(text);
-    if (depth <= kDeepestNamedFunction) TranslateCalls(text, depth);
-    SubstituteValues(text);
+    std::vector<Span> forms;
+    if (scope.depth <= kDeepestNamedFunction) forms = TranslateCalls(text, scope);
+    SubstituteValues(text, forms, scope);
 }
 
 // Greek letters from alpha (U+03B1) on; omicron and the capitals without a command are Latin letters.
@@ -217,7 +299,7 @@ std::string_view SignToTeX(char16_t c) {
 }  // namespace
 
 int TranslateToTeX(std::string& text) {
-    Translate(text, 0);
+    Translate(text, {});
     return 1;
 }
 
@@ -237,6 +319,7 @@ std::string NarrowToTeX(std::u16string_view text) {
 std::string ExpressionToTeX(std::u16string_view engineText) {
     if (engineText.size() >= kTexSourceLimit) return std::string(kTexSourceOverlength);
     std::string text = NarrowToTeX(engineText);
+    EncloseRadicands(text);
     TranslatePowers(text);
     TranslateToTeX(text);
     WrapDelimiters(text);

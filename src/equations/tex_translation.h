@@ -19,12 +19,16 @@ inline constexpr std::string_view kTexSourceOverlength = "\\text{Overlength!}";
 /// The passes, each in place on 8-bit text in the engine's notation. They take any text: what they do not
 /// understand stays as it is. None evaluates; calcError is neither read nor set.
 
-/// "a^b" to "{a}^{b}", nested to the right, as it is calculated.
+/// Parentheses round what "sqrt" applies to: "sqrt 25" to "sqrt(25)", "sqrt(9)!" to "sqrt((9)!)".
+void EncloseRadicands(std::string& text);
+/// "a^b" to "{a}^{b}", nested to the right, as it is calculated. A base that would not be read as a whole
+/// gets parentheses: "sin 2^3" becomes "{(sin 2)}^{3}".
 void TranslatePowers(std::string& text);
 /// "a/b" to "\frac{a}{b}", nested to the left.
 void TranslateFractions(std::string& text);
 /// Fractions, then named functions in their mathematical forms (an open call becomes a placeholder), then
-/// the values of stored variables with four decimals. Result: 1.
+/// the values of stored variables with four decimals; a name that a function binds stays. Forms and values
+/// get parentheses where what stands behind them would be read as a part of them. Result: 1.
 int TranslateToTeX(std::string& text);
 /// "(" to "\left( " and ")" to " \right)", those that are delimiters already excepted.
 void WrapDelimiters(std::string& text);

@@ -17,6 +17,7 @@ void SkipBlanks(std::string_view& text) {
 
 // Numbers in the form of the files, and whatever else reads as a decimal number.
 bool ReadNumber(std::string_view word, double& value) {
+    if (word.starts_with('+') && !word.starts_with("+-")) word.remove_prefix(1);
     const auto parsed = std::from_chars(word.data(), word.data() + word.size(), value);
     if (parsed.ec == std::errc() && parsed.ptr == word.data() + word.size()) return true;
     value = 0.0;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <system_error>
 
 #include "engine/variable_store.h"
 #include "matrix/data_text.h"
@@ -86,33 +87,47 @@ std::span<const std::u16string_view> MatrixMenu() {
 MatrixLoad MatrixStore::Load(const std::filesystem::path& path) {
     DeleteAll();
     const std::optional<std::vector<std::uint8_t>> bytes = ReadWholeFile(path);
-    if (!bytes) return MatrixLoad::good;
-    Reading reading{DataText(*bytes)};
+    std::error_code error;
+    if (!bytes && !std::filesystem::is_regular_file(path, error)) return MatrixLoad::good;
+    const MatrixLoad outcome = bytes ? Read(*bytes) : MatrixLoad::damaged;
+    if (outcome != MatrixLoad::good) KeepDamagedFile(path);
+    return outcome;
+}
+
+MatrixLoad MatrixStore::Read(std::span<const std::uint8_t> bytes) {
+    DeleteAll();
+    Reading reading{DataText(bytes)};
     const std::optional<std::int32_t> count = reading.text.TakeInteger();
-    if (!count || !IsWithin(*count, 0, static_cast<std::int32_t>(kMostMatrices))) {
-        reading.Note(count ? MatrixLoad::skipped : MatrixLoad::damaged);
-    } else {
-        reading.text.SkipLine();
-        for (std::int32_t i = 0; i < *count; ++i) {
-            if (reading.ReadRecord(*this)) continue;
-            reading.Note(MatrixLoad::damaged);
-            break;
-        }
+    if (!count) return MatrixLoad::damaged;
+    if (!IsWithin(*count, 0, static_cast<std::int32_t>(kMostMatrices))) return MatrixLoad::skipped;
+    reading.text.SkipLine();
+    for (std::int32_t i = 0; i < *count; ++i) {
+        if (!reading.ReadRecord(*this)) return MatrixLoad::damaged;
     }
-    if (reading.outcome != MatrixLoad::good) KeepDamagedFile(path);
     return reading.outcome;
 }
 
 bool MatrixStore::Save(const std::filesystem::path& path) const {
-    std::string text = IntegerRow(std::array{static_cast<int>(slots_.size())});
-    for (std::size_t i = 0; i < slots_.size(); ++i) {
-        const CalcValue& matrix = MatrixAt(i);
-        text += IntegerRow(std::array<int, 3>{slots_[i], matrix.rows, matrix.cols});
+    const std::string text = FileText();
+    return WriteFileAtomically(path, {reinterpret_cast<const std::uint8_t*>(text.data()), text.size()});
+}
+
+std::string MatrixStore::FileText() const {
+    std::string records;
+    int count = 0;
+    for (const int slot : slots_) {
+        const CalcValue& matrix = Variable(slot);
+        if (!IsMatrix(matrix) || !IsWithin(matrix.rows, 1, kLargestMatrixSide) ||
+            !IsWithin(matrix.cols, 1, kLargestMatrixSide)) {
+            continue;
+        }
+        ++count;
+        records += IntegerRow(std::array<int, 3>{slot, matrix.rows, matrix.cols});
         for (int row = 0; row < matrix.rows; ++row) {
-            AppendNumbers(text, std::span(matrix.data).subspan(SizeOf(row, matrix.cols), matrix.cols));
+            AppendNumbers(records, std::span(matrix.data).subspan(SizeOf(row, matrix.cols), matrix.cols));
         }
     }
-    return WriteFileAtomically(path, {reinterpret_cast<const std::uint8_t*>(text.data()), text.size()});
+    return IntegerRow(std::array{count}) + records;
 }
 
 std::u16string_view MatrixStore::NameAt(std::size_t index) const {

@@ -38,10 +38,15 @@ enum class MatrixLoad {
 class MatrixStore {
   public:
     /// Replaces the list by the file's. What can be read of a damaged file is taken; the file itself is kept
-    /// as NAME.bad whenever something of it is left out. The variables of the old list are cleared.
+    /// as NAME.bad whenever something of it is left out, or all of it cannot be read. The variables of the
+    /// old list are cleared.
     MatrixLoad Load(const std::filesystem::path& path);
+    /// The same for the bytes of a file.
+    MatrixLoad Read(std::span<const std::uint8_t> bytes);
     /// Writes the whole list; false, with the old file untouched, when the file cannot be written.
     [[nodiscard]] bool Save(const std::filesystem::path& path) const;
+    /// What Save writes. Entries whose variables hold no matrix of the file's sizes any more are left out.
+    [[nodiscard]] std::string FileText() const;
 
     [[nodiscard]] std::size_t Count() const { return slots_.size(); }
     /// Slots in the order of the list.

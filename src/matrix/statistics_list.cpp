@@ -4,6 +4,7 @@
 #include <cmath>
 #include <cstdint>
 #include <optional>
+#include <system_error>
 #include <vector>
 
 #include "engine/variable_store.h"
@@ -33,18 +34,6 @@ std::vector<double> CopyOfItems() {
     return {items.begin(), items.end()};
 }
 
-StatisticsLoad ReadItems(std::span<const std::uint8_t> bytes) {
-    DataText text(bytes);
-    const std::int32_t count = text.TakeInteger().value_or(0);
-    text.SkipLine();
-    const std::optional<DataText::Line> line = text.TakeLine(kLongestLine);
-    if (count < 1 || count > static_cast<std::int32_t>(kMostItems) || !line) return StatisticsLoad::none;
-    std::vector<double> items(static_cast<std::size_t>(count));
-    const bool isGood = ReadNumbers(line->text, items) && !line->isCut;
-    StoreItems(items);
-    return isGood ? StatisticsLoad::good : StatisticsLoad::damaged;
-}
-
 }  // namespace
 
 std::span<const double> StatisticsItems() {
@@ -58,21 +47,38 @@ std::string StatisticsCountLabel() {
 
 StatisticsLoad LoadStatistics(const std::filesystem::path& path) {
     const std::optional<std::vector<std::uint8_t>> bytes = ReadWholeFile(path);
-    if (!bytes || bytes->empty()) return StatisticsLoad::none;
-    const StatisticsLoad outcome = ReadItems(*bytes);
+    std::error_code error;
+    if (!bytes && !std::filesystem::is_regular_file(path, error)) return StatisticsLoad::none;
+    if (bytes && bytes->empty()) return StatisticsLoad::none;
+    const StatisticsLoad outcome = bytes ? ReadStatistics(*bytes) : StatisticsLoad::damaged;
     if (outcome != StatisticsLoad::good) KeepDamagedFile(path);
     return outcome;
 }
 
+StatisticsLoad ReadStatistics(std::span<const std::uint8_t> bytes) {
+    DataText text(bytes);
+    const std::int32_t count = text.TakeInteger().value_or(0);
+    text.SkipLine();
+    const std::optional<DataText::Line> line = text.TakeLine(kLongestLine);
+    if (count < 1 || count > static_cast<std::int32_t>(kMostItems) || !line) return StatisticsLoad::none;
+    std::vector<double> items(static_cast<std::size_t>(count));
+    const bool isGood = ReadNumbers(line->text, items) && !line->isCut;
+    StoreItems(items);
+    return isGood ? StatisticsLoad::good : StatisticsLoad::damaged;
+}
+
 bool SaveStatistics(const std::filesystem::path& path) {
-    const std::span<const double> items = StatisticsItems();
-    if (items.size() > kMostItems) return false;
-    std::string text;
-    if (!items.empty()) {
-        text = std::to_string(items.size()) + "\r\n";
-        AppendNumbers(text, items);
-    }
+    if (StatisticsItems().size() > kMostItems) return false;
+    const std::string text = StatisticsFileText();
     return WriteFileAtomically(path, {reinterpret_cast<const std::uint8_t*>(text.data()), text.size()});
+}
+
+std::string StatisticsFileText() {
+    const std::span<const double> items = StatisticsItems();
+    if (items.empty()) return {};
+    std::string text = std::to_string(items.size()) + "\r\n";
+    AppendNumbers(text, items);
+    return text;
 }
 
 bool InsertItem(std::size_t index, double value) {

@@ -54,7 +54,7 @@ std::optional<Raster> DecodeGif(std::span<const std::uint8_t> file) {
     const GifImageDesc& image = gif->Image;
     const ColorMapObject* colors = image.ColorMap != nullptr ? image.ColorMap : gif->SColorMap;
     if (colors == nullptr || image.Interlace || image.Width < 1 || image.Height < 1 ||
-        image.Width > kLargestRasterSide || image.Height > kLargestRasterSide) {
+        image.Width > kMostRasterPixels / image.Height) {
         return std::nullopt;
     }
     const auto rowBytes = static_cast<std::size_t>((image.Width + 7) / 8);

@@ -13,8 +13,8 @@ struct Raster {
     std::vector<std::uint8_t> bits;
 };
 
-/// Pictures wider or higher than this are refused.
-inline constexpr int kLargestRasterSide = 8192;
+/// Pictures of more pixels are refused; long lines are wide but low.
+inline constexpr int kMostRasterPixels = 8192 * 8192;
 
 /// The first image of a GIF file as one bit a pixel, dark pixels set, filled up to whole bytes. The
 /// rasteriser draws its bitmap with softened edges: on its scale from 255 (white) set pixels are below 90 and

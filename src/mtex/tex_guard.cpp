@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
+#include <vector>
 
 namespace quorix::mtex {
 namespace {
@@ -55,24 +57,37 @@ struct FunctionWord {
     std::string_view command;
 };
 
+// Operators that are words stand apart from their operands.
 constexpr auto kFunctionWords = std::to_array<FunctionWord>({
     {"acos", "\\arccos "},
+    {"and", "\\ \\text{and}\\ "},
     {"asin", "\\arcsin "},
     {"atan", "\\arctan "},
     {"cos", "\\cos "},
     {"cosh", "\\cosh "},
     {"csc", "\\csc "},
     {"det", "\\det "},
-    {"exp", "\\exp "},
+    {"exp", "\\ \\exp\\ "},
     {"gcd", "\\gcd "},
     {"ln", "\\ln "},
     {"log", "\\log "},
+    {"mod", "\\ \\text{mod}\\ "},
+    {"nand", "\\ \\text{nand}\\ "},
+    {"nor", "\\ \\text{nor}\\ "},
+    {"or", "\\ \\text{or}\\ "},
+    {"pi", "\\pi "},
+    {"root", "\\ \\text{root}\\ "},
+    {"rtl", "\\ \\text{rtl}\\ "},
+    {"rtr", "\\ \\text{rtr}\\ "},
     {"sec", "\\sec "},
+    {"shl", "\\ \\text{shl}\\ "},
+    {"shr", "\\ \\text{shr}\\ "},
     {"sin", "\\sin "},
     {"sinh", "\\sinh "},
     {"sqrt", "\\sqrt "},
     {"tan", "\\tan "},
     {"tanh", "\\tanh "},
+    {"xor", "\\ \\text{xor}\\ "},
 });
 
 constexpr std::string_view kSigns = "\\%,;:! {}|#$&_";
@@ -81,55 +96,145 @@ constexpr bool IsLetter(char c) {
     return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
 }
 
+constexpr bool IsBlank(std::string_view text) {
+    return text.find_first_not_of(' ') == text.npos;
+}
+
+constexpr bool IsOperandStart(char c) {
+    return IsLetter(c) || (c >= '0' && c <= '9');
+}
+
+constexpr std::string_view kGap = "\\ ";
 constexpr std::string_view kRoot = "sqrt";
+constexpr std::string_view kText = "\\text{";
 constexpr std::string_view kLineBreak = "\\\\";
 constexpr std::string_view kOpening = "\\left(";
 constexpr std::string_view kClosing = "\\right)";
 constexpr int kDeepestRoot = 64;
 
-/// The "\right)" that closes a "\left(" at `at`; npos when none stands there or it stays open.
-std::size_t ClosingDelimiter(std::string_view tex, std::size_t at) {
-    if (!tex.substr(at).starts_with(kOpening)) return tex.npos;
-    int depth = 0;
+/// Where the delimiter that closes a root's argument starts and ends. One that stays open ends with the text
+/// or the group around it.
+struct Radicand {
+    std::size_t close;
+    std::size_t end;
+};
+
+Radicand FindRadicand(std::string_view tex, std::size_t at) {
+    int delimiters = 0;
+    int braces = 0;
     for (; at < tex.size(); ++at) {
         const std::string_view rest = tex.substr(at);
-        if (rest.starts_with(kOpening)) ++depth;
-        if (rest.starts_with(kClosing) && --depth == 0) return at;
+        if (rest.starts_with(kOpening)) ++delimiters;
+        if (rest.starts_with(kClosing) && --delimiters == 0) return {at, at + kClosing.size()};
+        if (rest.front() == '{') ++braces;
+        if (rest.front() == '}' && --braces < 0) break;
     }
-    return tex.npos;
+    return {at, at};
 }
 
-std::string PreparedGroup(std::string_view tex, int depth) {
-    std::string prepared;
-    for (std::size_t at = 0; at < tex.size();) {
-        std::size_t end = at;
-        while (end < tex.size() && IsLetter(tex[end])) ++end;
-        if (tex.substr(at).starts_with(kLineBreak)) {
-            // The rasteriser must not take the second backslash for that of a command.
-            prepared.append(kLineBreak).append(" ");
-            at += kLineBreak.size();
-            continue;
+/// Writes a text anew for the rasteriser. A line that is being typed keeps its look: roots that stay open are
+/// drawn, and delimiters without a partner.
+class Preparation {
+  public:
+    Preparation(std::string_view tex, int depth) : tex_(tex), depth_(depth) {}
+
+    std::string Run() {
+        while (at_ < tex_.size()) {
+            if (Takes(kLineBreak)) {
+                // The rasteriser must not take the second backslash for that of a command.
+                prepared_.push_back(' ');
+            } else if (Starts(kText)) {
+                textEnd_ = std::min(tex_.find('}', at_), tex_.size());
+                Takes(kText);
+            } else if (Starts(kClosing) && open_.back() == 0) {
+                // It would become an arrow.
+                prepared_.push_back(')');
+                at_ += kClosing.size();
+            } else if (IsLetter(tex_[at_])) {
+                TakeWord();
+            } else {
+                TakeSign();
+            }
         }
-        if (end == at) {
-            prepared.push_back(tex[at++]);
-            continue;
-        }
-        const std::string_view word = tex.substr(at, end - at);
-        const auto function = std::ranges::find(kFunctionWords, word, &FunctionWord::word);
-        const bool isCommand = at > 0 && tex[at - 1] == '\\';
-        prepared.append(isCommand || function == kFunctionWords.end() ? word : function->command);
-        at = end;
-        if (function == kFunctionWords.end() || isCommand || word != kRoot) continue;
-        // The argument of a root is a group.
-        const std::size_t close = depth < kDeepestRoot ? ClosingDelimiter(tex, at) : tex.npos;
-        if (close == tex.npos) continue;
-        const std::string radicand =
-            PreparedGroup(tex.substr(at + kOpening.size(), close - at - kOpening.size()), depth + 1);
-        prepared.append("{").append(radicand).append("}");
-        at = close + kClosing.size();
+        return std::move(prepared_);
     }
-    return prepared;
-}
+
+  private:
+    [[nodiscard]] bool Starts(std::string_view part) const { return tex_.substr(at_).starts_with(part); }
+
+    bool Takes(std::string_view part) {
+        if (!Starts(part)) return false;
+        prepared_.append(part);
+        at_ += part.size();
+        return true;
+    }
+
+    void TakeSign() {
+        if (tex_[at_] == '\\') {
+            const std::string_view command = WordAt(at_ + 1);
+            if (command == "left") ++open_.back();
+            if (command == "right") --open_.back();
+            // An escaped brace is no group.
+            if (command.empty() && at_ + 1 < tex_.size()) prepared_.push_back(tex_[at_++]);
+        } else if (tex_[at_] == '{') {
+            open_.push_back(0);
+        } else if (tex_[at_] == '}' && open_.size() > 1) {
+            open_.pop_back();
+        }
+        prepared_.push_back(tex_[at_++]);
+    }
+
+    [[nodiscard]] std::string_view WordAt(std::size_t start) const {
+        const std::string_view rest = tex_.substr(start);
+        return {rest.begin(), std::ranges::find_if_not(rest, IsLetter)};
+    }
+
+    /// The command for a word; the word itself when there is none.
+    [[nodiscard]] std::string_view CommandAt(std::size_t start) const {
+        const std::string_view word = WordAt(start);
+        const auto function = std::ranges::find(kFunctionWords, word, &FunctionWord::word);
+        return function != kFunctionWords.end() ? function->command : word;
+    }
+
+    void TakeWord() {
+        const std::string_view word = WordAt(at_);
+        const bool isName = at_ >= textEnd_ && (at_ == 0 || tex_[at_ - 1] != '\\');
+        prepared_.append(isName ? CommandAt(at_) : word);
+        at_ += word.size();
+        if (isName && word == kRoot) {
+            TakeRadicand();
+        } else if (isName && word.size() > 1) {
+            TakeGap();
+        }
+    }
+
+    /// The blank between the name of a function and an operand without parentheses is drawn.
+    void TakeGap() {
+        const std::size_t next = std::min(tex_.find_first_not_of(' ', at_), tex_.size());
+        if (next == at_ || next == tex_.size() || !IsOperandStart(tex_[next])) return;
+        at_ = next;
+        if (!prepared_.ends_with(kGap) && !CommandAt(next).starts_with(kGap)) prepared_.append(kGap);
+    }
+
+    /// The argument of a root becomes a group.
+    void TakeRadicand() {
+        at_ = std::min(tex_.find_first_not_of(' ', at_), tex_.size());
+        if (depth_ >= kDeepestRoot || !Starts(kOpening)) return;
+        const Radicand radicand = FindRadicand(tex_, at_);
+        at_ += kOpening.size();
+        const std::string_view inside = tex_.substr(at_, radicand.close - at_);
+        const std::string drawn = IsBlank(inside) ? "?" : Preparation(inside, depth_ + 1).Run();
+        prepared_.append("{").append(drawn).append("}");
+        at_ = radicand.end;
+    }
+
+    std::string_view tex_;
+    int depth_;
+    std::size_t at_ = 0;
+    std::size_t textEnd_ = 0;      ///< words before it are plain text
+    std::vector<int> open_ = {0};  ///< delimiters that are open in each group around the place
+    std::string prepared_;
+};
 
 }  // namespace
 
@@ -154,7 +259,7 @@ bool IsHarmlessTex(std::string_view tex) {
 }
 
 std::string PreparedTex(std::string_view tex) {
-    return "\\nosmash " + PreparedGroup(tex, 0);  // Without it "=-" runs together.
+    return "\\nosmash " + Preparation(tex, 0).Run();  // Without it "=-" runs together.
 }
 
 }  // namespace quorix::mtex

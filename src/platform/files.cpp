@@ -35,7 +35,30 @@ class Descriptor {
     int value_;
 };
 
+/// A write beyond the process's limit for files fails while this stands, instead of ending the program.
+class FileLimitSignalBlock {
+  public:
+    FileLimitSignalBlock() {
+        sigemptyset(&blocked_);
+        sigaddset(&blocked_, SIGXFSZ);
+        ::pthread_sigmask(SIG_BLOCK, &blocked_, &before_);
+    }
+    FileLimitSignalBlock(const FileLimitSignalBlock&) = delete;
+    FileLimitSignalBlock& operator=(const FileLimitSignalBlock&) = delete;
+    ~FileLimitSignalBlock() {
+        const timespec noTime{};
+        while (::sigtimedwait(&blocked_, nullptr, &noTime) > 0) {
+        }
+        ::pthread_sigmask(SIG_SETMASK, &before_, nullptr);
+    }
+
+  private:
+    sigset_t blocked_{};
+    sigset_t before_{};
+};
+
 bool WriteAll(int descriptor, std::span<const std::uint8_t> bytes) {
+    const FileLimitSignalBlock block;
     while (!bytes.empty()) {
         const ssize_t written = ::write(descriptor, bytes.data(), bytes.size());
         if (written <= 0) {

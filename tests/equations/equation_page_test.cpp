@@ -26,6 +26,9 @@ TEST(EquationPage, ComposedText) {
     EXPECT_EQ(ComposeEquationPage(u"", {}), "{aX}^{4}+{bX}^{3}+{cX}^{2}+dX+e=0");
     EXPECT_EQ(ComposeEquationPage(u"1 -1/2 2-3*(1+1)", {"X_1=1", "Cannot solved"}),
               R"({X}^{2}-\frac{1}{2}X+(2-3*(1+1))=0\\X_1=1\\Cannot solved)");
+    EXPECT_EQ(ComposeEquationPage(u"gcd(4,6) (2*3)! 5/(2*3)", {}),
+              R"({gcd(4,6)X}^{2}+(2*3)!X+\frac{5}{2*3}=0)");
+    EXPECT_EQ(ComposeEquationPage(u"(-3) (-2)^2 2*(-3)", {}), R"({-3X}^{2}+{(-2)}^{2}X+2*(-3)=0)");
     EXPECT_EQ(ComposeEquationPage(u"1 2", {R"(\text{This cannot be})"}),
               R"(X+2=0\\\rightarrow\text{This cannot be})");
     EXPECT_EQ(ComposeEquationPage(u"\\text{Hello}", {}), "\\text{Hello}");

@@ -55,6 +55,9 @@ TEST_F(GraphCaptureTest, NamesCountOnFromTheGreatestNumber) {
         folder.Write(name, "");
     }
     EXPECT_EQ(NextCaptureName(folder.Path()), folder / "Capture 12.bmp");
+    folder.Write("Capture 999999999.bmp", "");
+    folder.Write("Capture 1000000000.bmp", "");
+    EXPECT_EQ(NextCaptureName(folder.Path()), folder / "Capture 1000000001.bmp") << "none is replaced";
     EXPECT_EQ(NextCaptureName(folder / "absent"), folder / "absent/Capture 1.bmp");
 }
 

@@ -89,7 +89,7 @@ TEST_F(DataStoreTest, MatrixFilesOfEveryShapeAreRead) {
         std::string_view list;
     } rows[] = {
         {"1\r\n2 1 2\r\n1 2 \r\n", MatrixLoad::good, "VA 1x2: 1 2"},
-        {"1\n2 1 2 trailing\n1 2 3 4\n", MatrixLoad::good, "VA 1x2: 1 2"},
+        {"1\n2 1 2 trailing\n1 +2 3 4\n", MatrixLoad::good, "VA 1x2: 1 2"},
         {"2\r\n2 1 3\r\n1 \r\n3 1 1\r\n9 \r\n", MatrixLoad::good, "VA 1x3: 1 0 0; VB 1x1: 9"},
         {"2\r\n2 1 1\r\n1 \r\n2 1 1\r\n5 \r\n", MatrixLoad::good, "VA 1x1: 5"},
         {"26\r\n2 1 1\r\n1 \r\n", MatrixLoad::skipped, ""},
@@ -122,6 +122,11 @@ TEST_F(DataStoreTest, MatrixFilesOfEveryShapeAreRead) {
     EXPECT_EQ(store_.Load(folder_ / "matrix.dat"), MatrixLoad::good);
     EXPECT_EQ(store_.Count(), 0U);
     EXPECT_FALSE(store_.Save(folder_ / "absent/matrix.dat"));
+    folder_.Write("matrix.dat", "");
+    std::filesystem::resize_file(folder_ / "matrix.dat", kLargestFile + 1);
+    EXPECT_EQ(store_.Load(folder_ / "matrix.dat"), MatrixLoad::damaged)
+        << "not to be replaced by an empty list";
+    EXPECT_TRUE(IsKept("matrix.dat"));
 }
 
 TEST_F(DataStoreTest, TheEditorsCommandsKeepTheLimits) {
@@ -147,6 +152,7 @@ TEST_F(DataStoreTest, TheEditorsCommandsKeepTheLimits) {
     store_.Delete(0);
     EXPECT_EQ(Variable(2).kind, KIND_REAL);
     SetVariableNumber(5, QComplex{});
+    EXPECT_EQ(store_.FileText(), "0\r\n") << "no longer a matrix";
     store_.Refresh();
     EXPECT_EQ(store_.Count(), 0U);
     for (const int slot : store_.FreeSlots()) store_.New(slot, 1, 1);
@@ -195,6 +201,9 @@ TEST_F(DataStoreTest, TheListIsReadWrittenAndEdited) {
     while (InsertItem(0, 1)) {
     }
     EXPECT_EQ(StatisticsItems().size(), kMostItems);
+    EXPECT_EQ(LoadMatrices("1\n29 1 1\n7\n"), MatrixLoad::good);
+    SetVariableMatrix(SLOT_LIST, 31, 1, std::vector<double>(31, 2.0));
+    EXPECT_EQ(store_.FileText(), "0\r\n") << "its rows would be read as heads";
 }
 
 TEST_F(DataStoreTest, ListFilesOfEveryShapeAreRead) {

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <csignal>
 #include <cstdlib>
 
 #include "equations/equation_picture.h"
@@ -33,12 +34,19 @@ TEST(TexGuard, LetsMathematicsPassAndNothingElse) {
     }
     EXPECT_TRUE(IsHarmlessTex(std::string(8191, 'x')));
     EXPECT_FALSE(IsHarmlessTex(std::string(8192, 'x')));
-    EXPECT_EQ(PreparedTex(R"(\sin x+sin\left(2 exp 3\right)+asinh)"),
-              R"(\nosmash \sin x+\sin \left(2 \exp  3\right)+asinh)");
+    EXPECT_EQ(PreparedTex(R"(\sin x+sin\left(2 exp 3\right)+ln 5+asinh x)"),
+              R"(\nosmash \sin x+\sin \left(2 \ \exp\ 3\right)+\ln \ 5+asinh\ x)");
     EXPECT_EQ(PreparedTex(R"(sqrt\left( sqrt\left( x \right)+(1) \right)y)"),
               R"(\nosmash \sqrt { \sqrt { x }+(1) }y)");
     EXPECT_EQ(PreparedTex(R"(a\\input\\\right)"), R"(\nosmash a\\ input\\ \right)");
-    EXPECT_EQ(PreparedTex(R"(sqrt\left( x)"), R"(\nosmash \sqrt \left( x)");
+    EXPECT_EQ(PreparedTex(R"(2pi mod \text{sin or pi} x)"),
+              R"(\nosmash 2\pi \ \text{mod}\  \text{sin or pi} x)");
+    EXPECT_EQ(PreparedTex(R"(sqrt \left( x \right))"), R"(\nosmash \sqrt { x })");
+    EXPECT_EQ(PreparedTex(R"(sqrt\left( x)"), R"(\nosmash \sqrt { x})");
+    EXPECT_EQ(PreparedTex(R"(sqrt\left( )"), R"(\nosmash \sqrt {?})");
+    EXPECT_EQ(PreparedTex(R"(\frac{sqrt\left( x}{y \right)} \right))"),
+              R"(\nosmash \frac{\sqrt { x}}{y )} ))");
+    EXPECT_EQ(PreparedTex(R"(\text{a\\input})"), R"(\nosmash \text{a\\ input})");
 }
 
 TEST(ChildProcess, KeepsItsLimits) {
@@ -54,6 +62,9 @@ TEST(ChildProcess, KeepsItsLimits) {
     EXPECT_FALSE(RunChild("/usr/bin/yes", {}, limits));
     EXPECT_FALSE(RunChild("/bin/sh", {"-c", "kill -9 $$"}, limits));
     EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(10));
+    const auto handler = std::signal(SIGCHLD, SIG_IGN);
+    EXPECT_TRUE(RunChild("/bin/echo", {"x"}, limits)) << "its status is taken by the system";
+    std::signal(SIGCHLD, handler);
     EXPECT_TRUE(RunChild("/nowhere/program", {}, limits).value_or(std::vector<std::uint8_t>()).empty());
 }
 

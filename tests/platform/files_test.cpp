@@ -1,6 +1,7 @@
 #include "platform/files.h"
 
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -29,6 +30,14 @@ TEST(Files, RoundTripAndRefusals) {
     EXPECT_FALSE(ReadWholeFile(folder / "absent"));
     EXPECT_FALSE(ReadWholeFile(folder.Path()));
     EXPECT_FALSE(WriteFileAtomically(folder / "no/such/folder", bytes));
+    rlimit limit{};
+    getrlimit(RLIMIT_FSIZE, &limit);
+    const rlimit small{3, limit.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &small);
+    EXPECT_FALSE(WriteFileAtomically(folder / "a", bytes)) << "no room, as on a full disk";
+    setrlimit(RLIMIT_FSIZE, &limit);
+    EXPECT_EQ(ReadWholeFile(folder / "a"), std::vector<std::uint8_t>{});
+    EXPECT_EQ(std::distance(fs::directory_iterator(folder.Path()), {}), 1);
     fs::resize_file(folder / "a", kLargestFile + 1);
     EXPECT_FALSE(ReadWholeFile(folder / "a"));
     ASSERT_TRUE(KeepDamagedFile(folder / "a"));
