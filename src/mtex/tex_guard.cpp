@@ -57,10 +57,8 @@ struct FunctionWord {
     std::string_view command;
 };
 
-// Operators that are words stand apart from their operands.
 constexpr auto kFunctionWords = std::to_array<FunctionWord>({
     {"acos", "\\arccos "},
-    {"and", "\\ \\text{and}\\ "},
     {"asin", "\\arcsin "},
     {"atan", "\\arctan "},
     {"cos", "\\cos "},
@@ -71,24 +69,24 @@ constexpr auto kFunctionWords = std::to_array<FunctionWord>({
     {"gcd", "\\gcd "},
     {"ln", "\\ln "},
     {"log", "\\log "},
-    {"mod", "\\ \\text{mod}\\ "},
-    {"nand", "\\ \\text{nand}\\ "},
-    {"nor", "\\ \\text{nor}\\ "},
-    {"or", "\\ \\text{or}\\ "},
     {"pi", "\\pi "},
-    {"root", "\\ \\text{root}\\ "},
-    {"rtl", "\\ \\text{rtl}\\ "},
-    {"rtr", "\\ \\text{rtr}\\ "},
     {"sec", "\\sec "},
-    {"shl", "\\ \\text{shl}\\ "},
-    {"shr", "\\ \\text{shr}\\ "},
     {"sin", "\\sin "},
     {"sinh", "\\sinh "},
     {"sqrt", "\\sqrt "},
     {"tan", "\\tan "},
     {"tanh", "\\tanh "},
-    {"xor", "\\ \\text{xor}\\ "},
 });
+
+// Functions without a command of their own, upright as the others.
+constexpr auto kUprightWords = std::to_array<std::string_view>(
+    {"abs",   "acosh", "acot", "acoth", "acsc",  "acsch", "actan", "asec", "asech", "asinh",
+     "atanh", "cpl",   "csch", "ctan",  "ctanh", "diag",  "eigl",  "eigv", "fib",   "iexp",
+     "inv",   "iroot", "lcm",  "not",   "orth",  "ran",   "rank",  "sech", "trans", "tri"});
+
+// Operators that are words stand apart from their operands.
+constexpr auto kOperatorWords = std::to_array<std::string_view>(
+    {"and", "mod", "nand", "nor", "or", "root", "rtl", "rtr", "shl", "shr", "xor"});
 
 constexpr std::string_view kSigns = "\\%,;:! {}|#$&_";
 
@@ -189,17 +187,21 @@ class Preparation {
         return {rest.begin(), std::ranges::find_if_not(rest, IsLetter)};
     }
 
-    /// The command for a word; the word itself when there is none.
-    [[nodiscard]] std::string_view CommandAt(std::size_t start) const {
-        const std::string_view word = WordAt(start);
-        const auto function = std::ranges::find(kFunctionWords, word, &FunctionWord::word);
-        return function != kFunctionWords.end() ? function->command : word;
+    /// How a word is drawn; the word itself when it has no form of its own.
+    [[nodiscard]] static std::string FormOf(std::string_view word) {
+        const auto* function = std::ranges::find(kFunctionWords, word, &FunctionWord::word);
+        if (function != kFunctionWords.end()) return std::string(function->command);
+        const std::string upright = std::string(kText).append(word).append("}");
+        if (std::ranges::find(kOperatorWords, word) != kOperatorWords.end()) {
+            return std::string(kGap).append(upright).append(kGap);
+        }
+        return std::ranges::find(kUprightWords, word) != kUprightWords.end() ? upright : std::string(word);
     }
 
     void TakeWord() {
         const std::string_view word = WordAt(at_);
         const bool isName = at_ >= textEnd_ && (at_ == 0 || tex_[at_ - 1] != '\\');
-        prepared_.append(isName ? CommandAt(at_) : word);
+        prepared_.append(isName ? FormOf(word) : word);
         at_ += word.size();
         if (isName && word == kRoot) {
             TakeRadicand();
@@ -213,7 +215,7 @@ class Preparation {
         const std::size_t next = std::min(tex_.find_first_not_of(' ', at_), tex_.size());
         if (next == at_ || next == tex_.size() || !IsOperandStart(tex_[next])) return;
         at_ = next;
-        if (!prepared_.ends_with(kGap) && !CommandAt(next).starts_with(kGap)) prepared_.append(kGap);
+        if (!prepared_.ends_with(kGap) && !FormOf(WordAt(next)).starts_with(kGap)) prepared_.append(kGap);
     }
 
     /// The argument of a root becomes a group.
