@@ -35,7 +35,7 @@ TEST(TexGuard, LetsMathematicsPassAndNothingElse) {
     EXPECT_TRUE(IsHarmlessTex(std::string(8191, 'x')));
     EXPECT_FALSE(IsHarmlessTex(std::string(8192, 'x')));
     EXPECT_EQ(PreparedTex(R"(\sin x+sin\left(2 exp 3\right)+ln 5+asinh x)"),
-              R"(\nosmash \sin x+\sin \left(2 \ \exp\ 3\right)+\ln \ 5+asinh\ x)");
+              R"(\nosmash \sin x+\sin \left(2 \ \exp\ 3\right)+\ln \ 5+\text{asinh}\ x)");
     EXPECT_EQ(PreparedTex(R"(sqrt\left( sqrt\left( x \right)+(1) \right)y)"),
               R"(\nosmash \sqrt { \sqrt { x }+(1) }y)");
     EXPECT_EQ(PreparedTex(R"(a\\input\\\right)"), R"(\nosmash a\\ input\\ \right)");
