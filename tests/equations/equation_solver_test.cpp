@@ -24,7 +24,7 @@ std::string Joined(const std::vector<std::string>& lines) {
 
 struct Row {
     const char* line;
-    const char* shown;
+    std::string shown;
 };
 
 void ExpectSolutions(std::initializer_list<Row> rows) {
@@ -72,6 +72,22 @@ TEST(EquationSolver, CubicsAndQuartics) {
         // The first intermediate value cancels to nothing.
         {"1 1 0 4 1", "X_1=-1.9325087503 X_2=-0.2471583568"},
         {"1 -8 24 -32 -65", "X_1=5 X_2=-1"},
+    });
+}
+
+TEST(EquationSolver, RootsOfVeryDifferentSizesAndCloseTogether) {
+    ExpectSolutions({
+        {"-388/10^6 -588e9 -505/10^9 304e4 627e0",
+         "X_1=-1515463917525773.1958762887 X_2=0.0023706277 X_3=-0.0021626374 X_4=-0.0002079903"},
+        {"-356/10^31 0 325/10^9 -371/10^37", "X_1=-95546917706.1513974181 X_2=95546917706.1513974181 X_3=0"},
+        {"1/10^40 -1e20 -1 3 0",
+         "X_1=0 X_2=1" + std::string(60, '0') + " X_3=-0.0000000002 X_4=0.0000000002"},
+        {"1e60 0 0 0 1/10^30", std::string(kNoRoot)},
+        {"1 0 0 0 -1e160", "X_1=1" + std::string(40, '0') + " X_2=-1" + std::string(40, '0')},
+        {"1 -0.9 0.26999999999999999999 -0.026999999999999999997",
+         "X_1=0.3000000001 X_2=0.2999999999 X_3=0.3"},
+        {"1 -10.40000506 40.5600394680003005 -70.3041026168015626000025 45.6976889345620313800065",
+         "X_1=2.6 X_2=2.60000001 X_3=2.60000005 X_4=2.600005"},
     });
 }
 
