@@ -5,6 +5,7 @@
 
 #include "engine/calc_context.h"
 #include "equations/coefficient_line.h"
+#include "equations/equation_page.h"
 #include "equations/equation_picture.h"
 #include "equations/equation_solver.h"
 #include "equations/simultaneous.h"
@@ -37,7 +38,12 @@ bool SolveSystem(std::u16string_view text, std::string& output) {
     std::vector<std::u16string> equations;
     while (!text.empty()) {
         const std::size_t end = std::min(text.find(u';'), text.size());
-        equations.emplace_back(text.substr(0, end));
+        const std::optional<std::u16string> equation = CheckedLine(text.substr(0, end));
+        if (!equation) {
+            output.append(ToUtf8(kInvalidParametersAgain)).push_back('\n');
+            return false;
+        }
+        equations.push_back(*equation);
         text.remove_prefix(std::min(end + 1, text.size()));
     }
     const SystemSolution solution = SolveSimultaneous(equations);

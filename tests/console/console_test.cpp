@@ -322,6 +322,7 @@ TEST_F(ConsoleTest, TheProgramTellsSuccessByItsStatus) {
                 {{"--solve", "1 -3 2"}, "", 0, "X_1=1=1\nX_2=2=2\n", ""},
                 {{"--solve=2 1 5; 1 −1 1"}, "", 0, "X_1=2=2\nX_2=1=1\n", ""},
                 {{"--solve", "1 1 1"}, "", 1, "\\text{Cannot be solved!}\n", ""},
+                {{"--solve", "2 x 5; 1 -1 1"}, "", 1, "Invalid parameters. Please re-enter!\n", ""},
                 {{"--tex", "1÷3+2√(x)"}, "", 0, "\\frac{1}{3}+\\sqrt{x}\n", ""},
                 {{"--picture", "/nowhere/picture.png", "("}, "", 1, "", ""},
                 {{"--digits", "none"}, "", 2, "", "quorix-calc: option --digits does not take \"none\"\n"},

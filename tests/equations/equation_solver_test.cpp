@@ -171,6 +171,9 @@ TEST(Simultaneous, SolvesOrSaysWhyNot) {
         {{u"2 0 -7", u"0 sqrt(4) 20"}, R"(X_1=-3 \frac{1}{2}=-3.5 X_2=10=10)"},
         {{u"1 1 2", u"1 1 2"}, "Cannot solved"},
         {{u"1 0 1", u"0 1/10^11 1"}, "Cannot solved"},
+        // Twice the first row is the last; the determinant is rounding.
+        {{u"1e5/3 1e5/7 9 1", u"1 2e5/9 3 4", u"2e5/3 2e5/7 18 3"}, "Cannot solved"},
+        {{u"1e7 1/10^7 2", u"1e7 -1/10^7 0"}, R"(X_1=\frac{1}{10000000}=0 X_2=10000000=10000000)"},
         {{u"1 1 2", u"1 1"}, "Equations have not the same number of parameters!"},
         {{u"1 1 2"}, "Number of equations and number of variables are not the same."},
         {{}, "Number of equations and number of variables are not the same."},
