@@ -53,6 +53,9 @@ TEST(EquationSolver, DecimalRootsWhereNoExactOneIsFound) {
         // Rationals that are too large, a discriminant just above a square, and a sum that cancels.
         {"1 -100000000000 1", "X_1=100000000000 X_2=0.00000000001"},
         {"1 -2.0000000001 1", "X_1=1.00001000005 X_2=0.99999000005"},
+        // Near the other root is not near enough.
+        {"50000000 -100000001 50000001", "X_1=1.00000002 X_2=1"},
+        {"1 1/10^10 0", "X_1=0 X_2=-0.0000000001"},
         {"1 -1e60 1e60", "X_1=999999999999999949387135297074018866963645011013410073083904 X_2=1"},
     });
 }
