@@ -10,6 +10,7 @@
 #include "engine/identifiers.h"
 #include "equations/closed_form_texts.h"
 #include "equations/coefficient_line.h"
+#include "equations/root_product.h"
 #include "numerics/constants.h"
 #include "numerics/qcore.h"
 #include "numerics/qfunctions.h"
@@ -21,6 +22,8 @@ using std::u16string;
 using std::u16string_view;
 
 constexpr double kNegligible = 1e-16;
+/// A residual that leaves nothing to be improved.
+constexpr double kExact = 1e-56;
 constexpr std::size_t kLongestFormula = 4095;
 
 void ReplaceAll(u16string& text, u16string_view from, u16string_view to) {
@@ -86,6 +89,10 @@ class ClosedForm {
         if (!IsNegligible(value.im)) return;
         roots.realMask |= bit;
         if (IsRootOf(polynomial_, value.re)) roots.goodMask |= bit;
+    }
+
+    [[nodiscard]] double Residual(const RootSet& roots) const {
+        return RootResidual(polynomial_, roots.values);
     }
 
     [[nodiscard]] RootSet Roots(std::span<const u16string> formulas) const {
@@ -195,7 +202,10 @@ class QuarticSolver {
         }
         if (Vanishes(b_[4])) {
             RootSet roots = CentredRoots();
-            if (roots.AllRealsAreRoots()) return roots;
+            const double residual = equation_.Residual(roots);
+            if (roots.AllRealsAreRoots() && residual <= kExact) return roots;
+            RootSet general = equation_.Roots(names_.FilledAll(closed_form::kQuarticRoots));
+            return equation_.Residual(general) < residual ? general : roots;
         }
         return equation_.Roots(names_.FilledAll(closed_form::kQuarticRoots));
     }

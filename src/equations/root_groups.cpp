@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "equations/root_product.h"
 #include "numerics/constants.h"
 #include "numerics/qcore.h"
 #include "numerics/qfunctions.h"
@@ -23,56 +24,12 @@ constexpr double kGroupBits = 8.0;
 /// digit.
 constexpr double kCutBits = 170.0;
 
-QReal Times(const QReal& a, const QReal& b) {
-    QReal product;
-    qmul(a, b, product);
-    return product;
-}
-
-QReal Quotient(const QReal& dividend, const QReal& divisor) {
-    QReal quotient;
-    qdiv(divisor, dividend, quotient);
-    return quotient;
-}
-
-QReal Difference(const QReal& minuend, const QReal& subtrahend) {
-    QReal difference;
-    qsub(subtrahend, minuend, difference);
-    return difference;
-}
-
-QReal Magnitude(QReal x) {
-    qabs(x);
-    return x;
-}
-
-QReal Size(const QComplex& value) {
-    if (value.im.IsZero()) return Magnitude(value.re);
-    QReal size;
-    qcabs(value, size);
-    return size;
-}
-
 /// Logarithm to base 2 of the magnitude of a number that is not 0.
 double Bits(const QReal& x) {
     std::int32_t exponent = 0;
     QReal mantissa;
     qfrexp(x, exponent, mantissa);
     return exponent + std::log2(std::fabs(qtoe(mantissa)));
-}
-
-/// The coefficients of the product of all X - value, highest power first.
-Values Product(const Values& values) {
-    Values product = {{constants::kOne, {}}};
-    for (const QComplex& value : values) {
-        product.emplace_back();
-        for (std::size_t k = product.size() - 1; k > 0; --k) {
-            QComplex term;
-            qcmul(product[k - 1], value, term);
-            qcsub(term, product[k], product[k]);
-        }
-    }
-    return product;
 }
 
 /// Clears what is rounding where the constant is 0: values below 2^-160 of the largest.
@@ -87,30 +44,6 @@ void ClearZeroRoots(const ExtendedPolynomial& polynomial, Values& values) {
     for (QComplex& value : values) {
         if (qcmp(Size(value), floor) < 0) value = {};
     }
-}
-
-/// How far the product of X - value is from the polynomial: the largest distance of a coefficient, relative
-/// to the sum of the magnitudes of what it is made of.
-double Residual(const ExtendedPolynomial& polynomial, const Values& values) {
-    constexpr double kNone = std::numeric_limits<double>::infinity();
-    if (values.size() + 1 != polynomial.size()) return kNone;
-    Values negated;
-    for (const QComplex& value : values) {
-        QReal size = Size(value);
-        qneg(size);
-        negated.push_back({size, {}});
-    }
-    const Values product = Product(values);
-    const Values sums = Product(negated);
-    double residual = 0.0;
-    for (std::size_t k = 1; k < polynomial.size(); ++k) {
-        const QReal coefficient = Quotient(polynomial[k], polynomial[0]);
-        const QReal distance = Size({Difference(coefficient, product[k].re), product[k].im});
-        if (distance.IsZero()) continue;
-        if (sums[k].re.IsZero()) return kNone;
-        residual = std::fmax(residual, qtoe(Quotient(distance, sums[k].re)));
-    }
-    return residual;
 }
 
 bool IsImaginaryPartBelow(double bound, const QComplex& value) {
@@ -213,8 +146,14 @@ void SortBySize(Values& values) {
 /// Real polynomial with these roots, highest power first.
 ExtendedPolynomial RealProduct(const Values& values) {
     ExtendedPolynomial real;
-    for (const QComplex& coefficient : Product(values)) real.push_back(coefficient.re);
+    for (const QComplex& coefficient : RootProduct(values)) real.push_back(coefficient.re);
     return real;
+}
+
+ExtendedPolynomial Monic(ExtendedPolynomial polynomial) {
+    const QReal leading = polynomial[0];
+    for (QReal& coefficient : polynomial) coefficient = Quotient(coefficient, leading);
+    return polynomial;
 }
 
 /// Quotient by a monic polynomial of smaller roots, which is stable from the highest power down.
@@ -234,9 +173,7 @@ ExtendedPolynomial WithoutLargeRoots(ExtendedPolynomial polynomial, ExtendedPoly
     std::ranges::reverse(polynomial);
     std::ranges::reverse(divisor);
     for (QReal& coefficient : polynomial) coefficient = Quotient(coefficient, divisor[0]);
-    const QReal constant = divisor[0];
-    for (QReal& coefficient : divisor) coefficient = Quotient(coefficient, constant);
-    ExtendedPolynomial quotient = WithoutSmallRoots(std::move(polynomial), divisor);
+    ExtendedPolynomial quotient = WithoutSmallRoots(std::move(polynomial), Monic(std::move(divisor)));
     std::ranges::reverse(quotient);
     return quotient;
 }
@@ -265,17 +202,15 @@ RootSet CentredRoots(const ExtendedPolynomial& polynomial) {
 
 /// Roots of about the same size: what fits best.
 Values RootsOfOneGroup(const ExtendedPolynomial& polynomial) {
-    constexpr double kExact = 1e-40;
     RootSet best;
     double least = std::numeric_limits<double>::infinity();
     for (const auto solve : {ScaledRoots, ReciprocalRoots, CentredRoots}) {
         RootSet roots = solve(polynomial);
-        const double residual = Residual(polynomial, AllValues(roots));
+        const double residual = RootResidual(polynomial, AllValues(roots));
         if (best.values.empty() || residual < least) {
             best = std::move(roots);
             least = residual;
         }
-        if (least <= kExact) break;
     }
     return best.values;
 }
@@ -291,11 +226,17 @@ Values RootsByGroups(const ExtendedPolynomial& polynomial, const std::vector<Gap
     for (Values* group : {&large, &small}) {
         if (group->size() == 1) qclear(group->front().im);
     }
-    const ExtendedPolynomial between =
-        WithoutSmallRoots(WithoutLargeRoots(polynomial, RealProduct(large)), RealProduct(small));
-    for (const QComplex& value : RootsOf(between)) large.push_back(value);
-    large.insert(large.end(), small.begin(), small.end());
-    return large;
+    const ExtendedPolynomial withoutLarge = WithoutLargeRoots(polynomial, RealProduct(large));
+    const ExtendedPolynomial withoutSmall = WithoutSmallRoots(polynomial, RealProduct(small));
+    const ExtendedPolynomial between = WithoutSmallRoots(withoutLarge, RealProduct(small));
+    const ExtendedPolynomial monicBetween = Monic(between);
+    // Each group is solved anew by itself: its roots may be close together.
+    Values roots;
+    for (const ExtendedPolynomial& group : {WithoutSmallRoots(withoutSmall, monicBetween), between,
+                                            WithoutLargeRoots(withoutLarge, monicBetween)}) {
+        for (const QComplex& root : RootsOf(group)) roots.push_back(root);
+    }
+    return roots;
 }
 
 Values RootsOf(ExtendedPolynomial polynomial) {
@@ -369,13 +310,13 @@ std::array<QComplex, 2> QuadraticRoots(const ExtendedPolynomial& polynomial) {
 }
 
 bool IsSettled(const ExtendedPolynomial& polynomial, RootSet& roots) {
-    constexpr double kLargestResidual = 1e-13;
+    constexpr double kLargestResidual = 1e-40;
     if (!roots.AllRealsAreRoots()) return false;
     ClearZeroRoots(polynomial, roots.values);
     for (std::size_t i = 0; i < roots.values.size(); ++i) {
         if (IsDoubtful(roots.values[i], (roots.realMask >> i & 1) != 0)) return false;
     }
-    return Residual(polynomial, AllValues(roots)) <= kLargestResidual;
+    return RootResidual(polynomial, AllValues(roots)) <= kLargestResidual;
 }
 
 RootSet GroupedRoots(const ExtendedPolynomial& polynomial) {
