@@ -3,13 +3,14 @@
 #include <optional>
 #include <vector>
 
+#include "console/console_session.h"
 #include "engine/calc_context.h"
 #include "equations/coefficient_line.h"
+#include "equations/equation_page.h"
 #include "equations/equation_picture.h"
 #include "equations/equation_solver.h"
 #include "equations/simultaneous.h"
 #include "equations/tex_translation.h"
-#include "frontends/engine_text.h"
 #include "platform/files.h"
 #include "platform/mtex_exports.h"
 #include "platform/png_writer.h"
@@ -37,7 +38,12 @@ bool SolveSystem(std::u16string_view text, std::string& output) {
     std::vector<std::u16string> equations;
     while (!text.empty()) {
         const std::size_t end = std::min(text.find(u';'), text.size());
-        equations.emplace_back(text.substr(0, end));
+        const std::optional<std::u16string> equation = CheckedLine(text.substr(0, end));
+        if (!equation) {
+            output.append(ToUtf8(kInvalidParametersAgain)).push_back('\n');
+            return false;
+        }
+        equations.push_back(*equation);
         text.remove_prefix(std::min(end + 1, text.size()));
     }
     const SystemSolution solution = SolveSimultaneous(equations);
@@ -46,8 +52,23 @@ bool SolveSystem(std::u16string_view text, std::string& output) {
     return false;
 }
 
+/// Coefficients in the engine's notation, each translated like a line of its own.
+std::u16string EngineCoefficients(const ConsoleOptions& options) {
+    const ConsoleSession session(options);
+    const std::string_view text = options.taskText;
+    std::u16string line;
+    for (std::size_t at = 0; at < text.size();) {
+        const std::size_t end = std::min(text.find_first_of(" ;", at), text.size());
+        const std::string_view token = text.substr(at, end - at);
+        line.append(session.EngineText(token).value_or(FromUtf8(token)));
+        if (end < text.size()) line.push_back(static_cast<char16_t>(text[end]));
+        at = end + 1;
+    }
+    return line;
+}
+
 bool Solve(const ConsoleOptions& options, std::string& output) {
-    const std::u16string text = WithEngineSigns(FromUtf8(options.taskText));
+    const std::u16string text = EngineCoefficients(options);
     if (text.find(u';') != text.npos) return SolveSystem(text, output);
     return WriteLines(SolveEquationCommand(text), output);
 }
@@ -55,7 +76,7 @@ bool Solve(const ConsoleOptions& options, std::string& output) {
 /// Black on white at the size of the pages of a screen of double density.
 bool WritePicture(const ConsoleOptions& options, std::string& output) {
     const std::optional<std::u16string> engineText =
-        ToEngineText(FromUtf8(options.expression.value_or("")), options.result.numberLocale, 10);
+        ConsoleSession(options).EngineText(options.expression.value_or(""));
     const std::string tex = engineText ? ExpressionToTeX(*engineText) : std::string(kTexSourceOverlength);
     EquationRasteriser rasteriser(ExecutableFolder() / mtex::kLibraryFile);
     EquationView view;
@@ -74,8 +95,7 @@ bool WritePicture(const ConsoleOptions& options, std::string& output) {
 }
 
 bool WriteTeX(const ConsoleOptions& options, std::string& output) {
-    const std::optional<std::u16string> engineText =
-        ToEngineText(FromUtf8(options.taskText), options.result.numberLocale, 10);
+    const std::optional<std::u16string> engineText = ConsoleSession(options).EngineText(options.taskText);
     output = engineText ? ExpressionToTeX(*engineText) : std::string(kTexSourceOverlength);
     output.push_back('\n');
     return true;

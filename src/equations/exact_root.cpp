@@ -12,6 +12,7 @@
 #include "equations/extended_polynomial.h"
 #include "equations/rational.h"
 #include "equations/surd.h"
+#include "numerics/qcore.h"
 
 namespace quorix {
 namespace {
@@ -183,9 +184,23 @@ class QuadraticRecogniser {
     RootForm form_{};
 };
 
-bool IsRootText(std::u16string_view text, const ExtendedPolynomial& polynomial) {
+/// Whether x is on the side of the centre where the root with this index lies: 2 a x + b is -S for index 0
+/// and S for 1. On the other side it is the root only where both are within the distance allowed.
+bool IsOnItsSide(const ExtendedPolynomial& polynomial, const QReal& x, int rootIndex) {
+    QReal twiceA;
+    QReal slope;
+    qldexp(polynomial[0], 1, twiceA);
+    qmul(twiceA, x, slope);
+    qadd(slope, polynomial[1], slope);
+    if (slope.IsZero() || slope.IsNegative() == (rootIndex == 0)) return true;
+    QReal distance;
+    qdiv(twiceA, slope, distance);
+    return std::fabs(qtoe(distance)) <= kRootDistance * std::fmax(1.0, std::fabs(qtoe(x)));
+}
+
+bool IsRootText(std::u16string_view text, const ExtendedPolynomial& polynomial, int rootIndex) {
     const std::optional<QReal> value = ExtendedValue(text);
-    return value && IsRootOf(polynomial, *value);
+    return value && IsRootOf(polynomial, *value) && IsOnItsSide(polynomial, *value, rootIndex);
 }
 
 std::optional<std::u16string> QuadraticRootText(const Texts& texts, int rootIndex) {
@@ -204,8 +219,8 @@ std::optional<std::u16string> QuadraticRootText(const Texts& texts, int rootInde
     } else if ((form->isRational || form->surd == u"sqrt(1)") && DoubleToRational(*value, rational)) {
         shorter = FractionText(rational);
     }
-    if (IsRootText(shorter, *polynomial)) return shorter;
-    if (shorter != full && IsRootText(full, *polynomial)) return full;
+    if (IsRootText(shorter, *polynomial, rootIndex)) return shorter;
+    if (shorter != full && IsRootText(full, *polynomial, rootIndex)) return full;
     return std::nullopt;
 }
 

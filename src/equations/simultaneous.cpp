@@ -34,6 +34,21 @@ std::string SolutionLine(std::size_t index, double value) {
     return line;
 }
 
+/// Whether the inverse is one of rounding: a singular matrix whose determinant is not quite 0. The diagonal
+/// of |A^-1| |A| tells, whatever the scales of rows and columns are; beyond 1e13 no three digits would be
+/// right.
+bool IsRounding(const CalcValue& matrix, const CalcValue& inverse, std::size_t size) {
+    constexpr double kLargestGrowth = 1e13;
+    for (std::size_t i = 0; i < size; ++i) {
+        double growth = 0.0;
+        for (std::size_t k = 0; k < size; ++k) {
+            growth += std::fabs(inverse.data[i * size + k] * matrix.data[k * size + i]);
+        }
+        if (!(growth <= kLargestGrowth)) return true;
+    }
+    return false;
+}
+
 }  // namespace
 
 std::vector<double> ParseCoefficients(std::u16string_view line) {
@@ -60,8 +75,11 @@ SystemSolution SolveSimultaneous(const std::vector<std::u16string>& equations) {
         right.data[row] = values[count];
     }
     ClearCalcError();
+    CalcValue inverse = matrix;
     CalcValue solution;
-    if (InvertInPlace(matrix)) MatrixMultiply(matrix, right, solution);
+    if (InvertInPlace(inverse) && !IsRounding(matrix, inverse, count)) {
+        MatrixMultiply(inverse, right, solution);
+    }
     const bool failed = calcContext().calcError != 0 || solution.data.size() != count ||
                         !std::ranges::all_of(solution.data, [](double x) { return std::isfinite(x); });
     ClearCalcError();

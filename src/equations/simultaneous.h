@@ -21,8 +21,8 @@ struct SystemSolution {
 
 /// Values of a line's tokens in doubles; a token that fails reads as 0.
 std::vector<double> ParseCoefficients(std::u16string_view line);
-/// x = A^-1 b. Lines "X_1=fraction=decimal" with six decimals; kNotSolved for a determinant below 1e-10 and
-/// for any engine error. The scratch values are freed; calcError is 0 at the end.
+/// x = A^-1 b for lines that pass the input check. Lines "X_1=fraction=decimal" with six decimals; kNotSolved
+/// for a determinant below 1e-10 or of rounding alone, and for any engine error. calcError is 0 at the end.
 SystemSolution SolveSimultaneous(const std::vector<std::u16string>& equations);
 
 }  // namespace quorix

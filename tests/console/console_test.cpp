@@ -313,20 +313,24 @@ TEST_F(ConsoleTest, TheProgramTellsSuccessByItsStatus) {
         std::string_view input;
         int status;
         std::string_view output, errors;
-    } rows[] = {{{"1÷3+2"}, "", 0, "2.33333333333333333333333333333333\n", ""},
-                {{"-3+5"}, "", 0, "2\n", ""},
-                {{"1/0"}, "", 1, "", "Invalid parameter(s)\n"},
-                {{}, "1+2\n[ans]+1\n", 0, "3\n4\n", ""},
-                {{}, "[VA]=[1 2;3 4]\ndet([VA])\n", 0, "[1 2;3 4]\n-2\n", ""},
-                {{}, "1+2\n(\n", 1, "3\n", "Syntax error\n"},
-                {{"--solve", "1 -3 2"}, "", 0, "X_1=1=1\nX_2=2=2\n", ""},
-                {{"--solve=2 1 5; 1 −1 1"}, "", 0, "X_1=2=2\nX_2=1=1\n", ""},
-                {{"--solve", "1 1 1"}, "", 1, "\\text{Cannot be solved!}\n", ""},
-                {{"--tex", "1÷3+2√(x)"}, "", 0, "\\frac{1}{3}+\\sqrt{x}\n", ""},
-                {{"--picture", "/nowhere/picture.png", "("}, "", 1, "", ""},
-                {{"--digits", "none"}, "", 2, "", "quorix-calc: option --digits does not take \"none\"\n"},
-                {{"--version"}, "", 0, "quorix-calc ", ""},
-                {{"--help"}, "", 0, "Usage: quorix-calc", ""}};
+    } rows[] = {
+        {{"1÷3+2"}, "", 0, "2.33333333333333333333333333333333\n", ""},
+        {{"-3+5"}, "", 0, "2\n", ""},
+        {{"1/0"}, "", 1, "", "Invalid parameter(s)\n"},
+        {{}, "1+2\n[ans]+1\n", 0, "3\n4\n", ""},
+        {{}, "[VA]=[1 2;3 4]\ndet([VA])\n", 0, "[1 2;3 4]\n-2\n", ""},
+        {{}, "1+2\n(\n", 1, "3\n", "Syntax error\n"},
+        {{"--solve", "1 -3 2"}, "", 0, "X_1=1=1\nX_2=2=2\n", ""},
+        {{"--solve=2 1 5; 1 −1 1"}, "", 0, "X_1=2=2\nX_2=1=1\n", ""},
+        {{"--solve", "1 1 1"}, "", 1, "\\text{Cannot be solved!}\n", ""},
+        {{"--locale", "european", "--solve", "2√(9)×0,5 -4,5"}, "", 0, "X=3=3\n", ""},
+        {{"--locale", "european", "--tex", "1,5+gcd(4;6)"}, "", 0, "1.5+gcd\\left( 4,6 \\right)\n", ""},
+        {{"--solve", "2 x 5; 1 -1 1"}, "", 1, "Invalid parameters. Please re-enter!\n", ""},
+        {{"--tex", "1÷3+2√(x)"}, "", 0, "\\frac{1}{3}+\\sqrt{x}\n", ""},
+        {{"--picture", "/nowhere/picture.png", "("}, "", 1, "", ""},
+        {{"--digits", "none"}, "", 2, "", "quorix-calc: option --digits does not take \"none\"\n"},
+        {{"--version"}, "", 0, "quorix-calc ", ""},
+        {{"--help"}, "", 0, "Usage: quorix-calc", ""}};
     for (const auto& row : rows) {
         const ProgramRun run = RunProgram(row.arguments, row.input);
         EXPECT_EQ(run.status, row.status) << row.output;

@@ -24,7 +24,7 @@ std::string Joined(const std::vector<std::string>& lines) {
 
 struct Row {
     const char* line;
-    const char* shown;
+    std::string shown;
 };
 
 void ExpectSolutions(std::initializer_list<Row> rows) {
@@ -53,6 +53,9 @@ TEST(EquationSolver, DecimalRootsWhereNoExactOneIsFound) {
         // Rationals that are too large, a discriminant just above a square, and a sum that cancels.
         {"1 -100000000000 1", "X_1=100000000000 X_2=0.00000000001"},
         {"1 -2.0000000001 1", "X_1=1.00001000005 X_2=0.99999000005"},
+        // Near the other root is not near enough.
+        {"50000000 -100000001 50000001", "X_1=1.00000002 X_2=1"},
+        {"1 1/10^10 0", "X_1=0 X_2=-0.0000000001"},
         {"1 -1e60 1e60", "X_1=999999999999999949387135297074018866963645011013410073083904 X_2=1"},
     });
 }
@@ -72,6 +75,28 @@ TEST(EquationSolver, CubicsAndQuartics) {
         // The first intermediate value cancels to nothing.
         {"1 1 0 4 1", "X_1=-1.9325087503 X_2=-0.2471583568"},
         {"1 -8 24 -32 -65", "X_1=5 X_2=-1"},
+    });
+}
+
+TEST(EquationSolver, RootsOfVeryDifferentSizesAndCloseTogether) {
+    ExpectSolutions({
+        {"-388/10^6 -588e9 -505/10^9 304e4 627e0",
+         "X_1=-1515463917525773.1958762887 X_2=0.0023706277 X_3=-0.0021626374 X_4=-0.0002079903"},
+        {"-356/10^31 0 325/10^9 -371/10^37", "X_1=-95546917706.1513974181 X_2=95546917706.1513974181 X_3=0"},
+        {"1/10^40 -1e20 -1 3 0",
+         "X_1=0 X_2=1" + std::string(60, '0') + " X_3=-0.0000000002 X_4=0.0000000002"},
+        {"1e60 0 0 0 1/10^30", std::string(kNoRoot)},
+        {"1 0 0 0 -1e160", "X_1=1" + std::string(40, '0') + " X_2=-1" + std::string(40, '0')},
+        // Three of four close together, then all.
+        {"70000000000 729999999999999999999999789999999978790000 "
+         "-2190000000221189999999999789999999957579999999937 "
+         "2190000000442380000000656929999999978789999999937000000 "
+         "-730000000221190000000657000000000000000000000000000000000000",
+         "X_1=-10428571428571428571428571428571.4285714286 X_2=1000000.0003 X_3=1000000 X_4=1000000.000003"},
+        {"1 -0.9 0.26999999999999999999 -0.026999999999999999997",
+         "X_1=0.3000000001 X_2=0.2999999999 X_3=0.3"},
+        {"1 -10.40000506 40.5600394680003005 -70.3041026168015626000025 45.6976889345620313800065",
+         "X_1=2.6 X_2=2.60000001 X_3=2.60000005 X_4=2.600005"},
     });
 }
 
@@ -155,6 +180,9 @@ TEST(Simultaneous, SolvesOrSaysWhyNot) {
         {{u"2 0 -7", u"0 sqrt(4) 20"}, R"(X_1=-3 \frac{1}{2}=-3.5 X_2=10=10)"},
         {{u"1 1 2", u"1 1 2"}, "Cannot solved"},
         {{u"1 0 1", u"0 1/10^11 1"}, "Cannot solved"},
+        // Twice the first row is the last; the determinant is rounding.
+        {{u"1e5/3 1e5/7 9 1", u"1 2e5/9 3 4", u"2e5/3 2e5/7 18 3"}, "Cannot solved"},
+        {{u"1e7 1/10^7 2", u"1e7 -1/10^7 0"}, R"(X_1=\frac{1}{10000000}=0 X_2=10000000=10000000)"},
         {{u"1 1 2", u"1 1"}, "Equations have not the same number of parameters!"},
         {{u"1 1 2"}, "Number of equations and number of variables are not the same."},
         {{}, "Number of equations and number of variables are not the same."},
