@@ -91,6 +91,8 @@ class Converter {
     [[nodiscard]] const ConverterState& State() const { return state_; }
     /// The field that is typed into; nothing among the constants.
     [[nodiscard]] std::optional<ConverterField> ActiveField() const;
+    /// Writes all fields in the signs of the other locale, for a change of the preference.
+    void ExchangeDecimalSigns();
     [[nodiscard]] UnitTable& Table() { return table_; }
     [[nodiscard]] const std::filesystem::path& CurrencyFile() const { return currencyFile_; }
 
