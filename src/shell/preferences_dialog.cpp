@@ -63,7 +63,7 @@ void FillFiles(QListWidget& list, const std::vector<FileChoice>& files, std::u16
     for (const FileChoice& file : files) {
         auto* const row = new QListWidgetItem(ToQString(file.shown), &list);
         row->setData(kValueRole, ToQString(file.file));
-        if (EqualsIgnoringCase(file.file, chosen)) {
+        if (SameFileName(file.file, chosen)) {
             list.setCurrentItem(row);
         }
     }
