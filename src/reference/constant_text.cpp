@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "engine/number_locale.h"
-#include "platform/path.h"
+#include "engine/text_fold.h"
 
 namespace quorix {
 
