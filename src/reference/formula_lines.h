@@ -16,12 +16,6 @@ inline std::string_view TakeFormulaLine(std::string_view& text) {
     return line;
 }
 
-inline std::string_view TrimFormulaText(std::string_view text) {
-    constexpr std::string_view kBlanks = " \t\r\n\v\f";
-    text.remove_prefix(std::min(text.find_first_not_of(kBlanks), text.size()));
-    return text.substr(0, text.find_last_not_of(kBlanks) + 1);
-}
-
 inline constexpr char FoldFormulaCase(char c) {
     return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
 }

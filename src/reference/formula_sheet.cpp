@@ -11,6 +11,7 @@
 #include "engine/identifiers.h"
 #include "engine/text_fold.h"
 #include "numerics/qcore.h"
+#include "platform/trim.h"
 #include "platform/utf8.h"
 
 namespace quorix {
@@ -27,14 +28,8 @@ constexpr int kShownDigits = 12;
 
 constexpr std::string_view kDegreeMarks[] = {"^o", "^0"};
 
-std::u16string_view Trim(std::u16string_view text) {
-    constexpr std::u16string_view kBlanks = u" \t\r\n";
-    text.remove_prefix(std::min(text.find_first_not_of(kBlanks), text.size()));
-    return text.substr(0, text.find_last_not_of(kBlanks) + 1);
-}
-
 bool IsBlank(std::u16string_view text) {
-    return Trim(text).empty();
+    return Trimmed(text).empty();
 }
 
 /// Part of a word: symbols may have primes and letters beyond ASCII.
@@ -119,7 +114,7 @@ std::u16string ShownText(const QReal& value) {
 }  // namespace
 
 std::u16string ExponentAsPower(std::u16string_view number) {
-    const std::u16string_view trimmed = Trim(number);
+    const std::u16string_view trimmed = Trimmed(number);
     const std::size_t mark = trimmed.find_first_of(u"Ee");
     if (mark == trimmed.npos || mark == 0 || mark + 1 == trimmed.size()) {
         return std::u16string(number);
@@ -183,7 +178,7 @@ std::u16string FormulaSheet::FilledForm(std::size_t k) const {
     std::vector<std::u16string> values;
     for (std::size_t i = 0; i < fields_.size(); ++i) {
         if (i != k) {
-            symbols.emplace_back(Trim(FromUtf8OrLatin1(detail_.parameters[i].symbol)));
+            symbols.emplace_back(Trimmed(FromUtf8OrLatin1(detail_.parameters[i].symbol)));
             values.push_back(ExponentAsPower(fields_[i]));
         }
     }
