@@ -73,6 +73,7 @@ TEST_F(ConverterTest, KeysMakeTheActiveFieldACalculatorThatTheOtherFieldFollows)
         {"C12*3", "3 | 300"},
         {"C12*3+", "36 | 3¸600"},
         {"C12*3=", "36 | 3¸600"},
+        {"C12*3\r", "36 | 3¸600"},
         {"C3.=2", "32 | 3¸200"},
         {"C3.5=2", "3.52 | 352"},
         {"C1.50", "1.50 | 150"},
@@ -102,6 +103,7 @@ TEST_F(ConverterTest, KeysMakeTheActiveFieldACalculatorThatTheOtherFieldFollows)
             EXPECT_EQ(Both(), row.both) << row.keys;
         }
     }
+    EXPECT_FALSE(converter_->OnKey(','));
     EXPECT_FALSE(converter_->OnKey('x'));
     EXPECT_FALSE(converter_->OnKey(0x10030));
 }
@@ -129,8 +131,8 @@ TEST_F(ConverterTest, EuropeanSignsReadBackAsTheyAreShown) {
     converter_->OnFieldPressed(unitTo);
     Choose(HotSpot::from, 1);
     EXPECT_EQ(Value(unitFrom), "1.00000000e-09");
-    Keys("C12.5");
-    EXPECT_EQ(Both(), "12¸5 | 12¸5");
+    Keys("C12,5_");
+    EXPECT_EQ(Both(), "-12¸5 | -12¸5");
     // What stands there keeps its value when the preference changes.
     Keys("C1234.5");
     converter_->SetMode(ConverterMode::constants);
