@@ -1,6 +1,6 @@
 #pragma once
 
-// Lines and blanks of the library's 8-bit texts.
+// Lines and tags of the library's 8-bit texts.
 
 #include <algorithm>
 #include <charconv>
