@@ -6,6 +6,7 @@
 #include "platform/utf8.h"
 #include "reference/formula_files.h"
 #include "reference/formula_sheet.h"
+#include "reference/formula_text.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace quorix;
