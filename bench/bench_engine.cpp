@@ -1,7 +1,6 @@
 // Evaluation of expressions beside muParser, and long products beside MPFR.
 
 #include <mpfr.h>
-#include <muParser.h>
 
 #include <cmath>
 #include <cstdlib>
@@ -14,6 +13,7 @@
 #include "engine/eval_double.h"
 #include "engine/evaluate.h"
 #include "engine/integral.h"
+#include "parser_peer.h"
 #include "ratio_report.h"
 
 namespace {
@@ -31,23 +31,6 @@ constexpr const char* kPeerGraph = "exp(-x/3)*sin(x)+x^2/7";
 constexpr std::u16string_view kIntegrand = u"exp(-x/2)*cos(x)";
 constexpr const char* kPeerIntegrand = "exp(-x/2)*cos(x)";
 constexpr double kUpper = 3.0;
-
-/// A parser of the peer with its variable.
-class Peer {
-  public:
-    explicit Peer(const char* expression) {
-        parser_.DefineVar("x", &x_);
-        parser_.SetExpr(expression);
-    }
-    double At(double x) {
-        x_ = x;
-        return parser_.Eval();
-    }
-
-  private:
-    double x_ = 0.0;
-    mu::Parser parser_;
-};
 
 /// The sampler of the graph.
 class Own {
@@ -116,8 +99,8 @@ void PeerFactorial(benchmark::State& state) {
 
 int main(int argc, char** argv) {
     SetAngleUnit(UNIT_RADIANS);
-    Peer graph(kPeerGraph);
-    Peer integrand(kPeerIntegrand);
+    bench::ParserPeer graph(kPeerGraph);
+    bench::ParserPeer integrand(kPeerIntegrand);
     Own own;
     const auto ownAt = [&own](double x) { return own.At(x); };
     const auto peerAt = [&graph](double x) { return graph.At(x); };

@@ -21,16 +21,6 @@ namespace {
 
 using namespace quorix;
 
-/// Runs `body` once per iteration and keeps its result alive.
-template <class Body>
-bench::Body Loop(Body body) {
-    return [body](benchmark::State& state) {
-        for (auto _ : state) {
-            benchmark::DoNotOptimize(body());
-        }
-    };
-}
-
 /// The longest formula of a quartic filled with the coefficients 1 to 5.
 std::u16string LongestFormula() {
     std::u16string text;
@@ -82,36 +72,38 @@ std::size_t BareProgram() {
 }  // namespace
 
 int main(int argc, char** argv) {
-    bench::RegisterPair("quartic by all its formulas", Loop([] {
+    bench::RegisterPair("quartic by all its formulas", bench::Loop([] {
                             std::array<std::u16string, 4> texts;
                             return QuarticRoots(u"1 2 3 4 -5", texts);
                         }),
-                        Loop([text = LongestFormula()] { return Evaluated(text); }), 60);
-    bench::RegisterPair("exact root", Loop([] {
+                        bench::Loop([text = LongestFormula()] { return Evaluated(text); }), 60);
+    bench::RegisterPair("exact root", bench::Loop([] {
                             int count = 0;
                             return ExactRootText(u"1 -3 1", 0, count)->size();
                         }),
-                        Loop([text = std::u16string(u"(3-sqrt(5))/(2)")] { return Evaluated(text); }), 10);
-    bench::RegisterPair("expression to TeX",
-                        Loop([] { return ExpressionToTeX(u"fnSum(RT(3,k^2+1)/(k+1),k,1,10)+x^2/3").size(); }),
-                        Loop([text = std::u16string(u"(3-sqrt(5))/(2)")] { return Evaluated(text); }), 0);
+                        bench::Loop([text = std::u16string(u"(3-sqrt(5))/(2)")] { return Evaluated(text); }),
+                        10);
+    bench::RegisterPair(
+        "expression to TeX",
+        bench::Loop([] { return ExpressionToTeX(u"fnSum(RT(3,k^2+1)/(k+1),k,1,10)+x^2/3").size(); }),
+        bench::Loop([text = std::u16string(u"(3-sqrt(5))/(2)")] { return Evaluated(text); }), 0);
     EquationRasteriser rasteriser(MTEX_LIBRARY);
     EquationView view;
     int round = 0;
     if (rasteriser.IsLoaded() && BareProgram() > 0) {
         // A blank more or less each time keeps the picture out of the cache.
-        bench::RegisterPair("picture of an equation", Loop([&] {
+        bench::RegisterPair("picture of an equation", bench::Loop([&] {
                                 const std::string tex =
                                     kPictureTex + std::string(static_cast<std::size_t>(++round % 64), ' ');
                                 RenderEquation(rasteriser, view, tex, PageSizeCommand(2));
                                 return view.picture.width;
                             }),
-                            Loop(BareProgram), 3);
-        bench::RegisterPair("the same picture again", Loop([&] {
+                            bench::Loop(BareProgram), 3);
+        bench::RegisterPair("the same picture again", bench::Loop([&] {
                                 RenderEquation(rasteriser, view, kPictureTex, PageSizeCommand(2));
                                 return view.picture.width;
                             }),
-                            Loop(BareProgram), 0);
+                            bench::Loop(BareProgram), 0);
     }
     return bench::RunPairs(argc, argv);
 }

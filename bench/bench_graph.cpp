@@ -1,8 +1,6 @@
 // Sampling the three curves of a graph's window beside muParser, which has its parsers built and evaluates at
 // the same points.
 
-#include <muParser.h>
-
 #include <array>
 #include <cmath>
 #include <cstdlib>
@@ -14,6 +12,7 @@
 #include "engine/calc_context.h"
 #include "equations/graph_drawing.h"
 #include "equations/graph_gestures.h"
+#include "parser_peer.h"
 #include "ratio_report.h"
 
 namespace {
@@ -23,22 +22,6 @@ using namespace quorix;
 constexpr int kWidth = 468;
 constexpr int kHeight = 508;
 constexpr std::array<const char*, 3> kFunctions = {"exp(-x/3)*sin(x)+x^2/7", "ln(x^2+1)*4-x", "cos(x)*x/2"};
-
-class Peer {
-  public:
-    explicit Peer(const char* expression) {
-        parser_.DefineVar("x", &x_);
-        parser_.SetExpr(expression);
-    }
-    double At(double x) {
-        x_ = x;
-        return parser_.Eval();
-    }
-
-  private:
-    double x_ = 0.0;
-    mu::Parser parser_;
-};
 
 GraphView SampledView() {
     GraphView view;
@@ -54,8 +37,8 @@ GraphView SampledView() {
 int main(int argc, char** argv) {
     SetAngleUnit(UNIT_RADIANS);
     GraphView view = SampledView();
-    std::vector<std::unique_ptr<Peer>> peers;
-    for (const char* function : kFunctions) peers.push_back(std::make_unique<Peer>(function));
+    std::vector<std::unique_ptr<bench::ParserPeer>> peers;
+    for (const char* function : kFunctions) peers.push_back(std::make_unique<bench::ParserPeer>(function));
     for (std::size_t i = 0; i < peers.size(); ++i) {
         const GraphCurve& curve = view.curves[i];
         for (std::size_t at = 0; at < static_cast<std::size_t>(curve.pointCount); ++at) {

@@ -39,36 +39,26 @@ PeerMatrix PeerSample() {
     return Eigen::Map<const PeerMatrix>(Sample().data.data(), kSize, kSize);
 }
 
-/// Runs `body` once per iteration and keeps its result alive.
-template <class Body>
-bench::Body Loop(Body body) {
-    return [body](benchmark::State& state) {
-        for (auto _ : state) {
-            benchmark::DoNotOptimize(body());
-        }
-    };
-}
-
 }  // namespace
 
 int main(int argc, char** argv) {
     const PeerMatrix peer = PeerSample();
-    bench::RegisterPair("determinant", Loop([] { return DeterminantOf(Sample()); }),
-                        Loop([&] { return peer.determinant(); }), 2.5);
-    bench::RegisterPair("inverse", Loop([] {
+    bench::RegisterPair("determinant", bench::Loop([] { return DeterminantOf(Sample()); }),
+                        bench::Loop([&] { return peer.determinant(); }), 2.5);
+    bench::RegisterPair("inverse", bench::Loop([] {
                             CalcValue copy = Sample();
                             InvertInPlace(copy);
                             return copy;
                         }),
-                        Loop([&] { return PeerMatrix(peer.inverse()); }), 2.5);
-    const auto peerEigen =
-        Loop([&] { return Eigen::SelfAdjointEigenSolver<PeerMatrix>(peer, Eigen::ComputeEigenvectors); });
-    bench::RegisterPair("eigenvalues", Loop([] { return EigenvaluesOf(Sample().data, kSize); }), peerEigen,
-                        45);
+                        bench::Loop([&] { return PeerMatrix(peer.inverse()); }), 2.5);
+    const auto peerEigen = bench::Loop(
+        [&] { return Eigen::SelfAdjointEigenSolver<PeerMatrix>(peer, Eigen::ComputeEigenvectors); });
+    bench::RegisterPair("eigenvalues", bench::Loop([] { return EigenvaluesOf(Sample().data, kSize); }),
+                        peerEigen, 45);
     for (const auto& [name, width, goal] :
          {std::tuple{"rounds, 4 wide", 4U, 45.0}, {"rounds, 2 wide", 2U, 80.0}}) {
         bench::RegisterPair(
-            name, Loop([width = width] { return QrRounds(Sample().data, kSize, kQrRounds, width); }),
+            name, bench::Loop([width = width] { return QrRounds(Sample().data, kSize, kQrRounds, width); }),
             peerEigen, goal);
     }
     return bench::RunPairs(argc, argv);

@@ -15,16 +15,6 @@ namespace {
 
 using namespace quorix;
 
-/// Runs `body` once per iteration and keeps its result alive.
-template <class Body>
-bench::Body Loop(Body body) {
-    return [body](benchmark::State& state) {
-        for (auto _ : state) {
-            benchmark::DoNotOptimize(body());
-        }
-    };
-}
-
 std::int64_t ChronoDays(int year) {
     using namespace std::chrono;
     const auto days = [](int y, unsigned m, unsigned d) {
@@ -62,22 +52,22 @@ int Turn(int count) {
 }
 
 void RegisterCalendars() {
-    bench::RegisterPair("days between over 400 years", Loop([] {
+    bench::RegisterPair("days between over 400 years", bench::Loop([] {
                             const int year = 1600 + Turn(400);
                             return DaysBetween(SolarDate(year + 400, 11, 30), SolarDate(year, 2, 28));
                         }),
-                        Loop([] { return ChronoDays(1600 + Turn(400)); }), 100);
+                        bench::Loop([] { return ChronoDays(1600 + Turn(400)); }), 100);
     // Its day needs one new moon: that of its month.
     bench::RegisterPair("solar to lunar, year kept",
-                        Loop([] { return SolarToLunar(SolarDate(2026, 1 + Turn(12), 15)); }),
-                        Loop([] { return SinesAndCosines(1, Turn(12)); }), 1.0);
+                        bench::Loop([] { return SolarToLunar(SolarDate(2026, 1 + Turn(12), 15)); }),
+                        bench::Loop([] { return SinesAndCosines(1, Turn(12)); }), 1.0);
     // A year that was not asked for before needs the new moons of its thirteen months.
     bench::RegisterPair("solar to lunar, new year",
-                        Loop([] { return SolarToLunar(SolarDate(1700 + Turn(600), 10, 15)); }),
-                        Loop([] { return SinesAndCosines(13, Turn(600)); }), 1.0);
+                        bench::Loop([] { return SolarToLunar(SolarDate(1700 + Turn(600), 10, 15)); }),
+                        bench::Loop([] { return SinesAndCosines(13, Turn(600)); }), 1.0);
     bench::RegisterPair("lunar to solar, year kept",
-                        Loop([] { return LunarToSolar(LunarDate(2026, 1 + Turn(12), 15, 0)); }),
-                        Loop([] { return SinesAndCosines(1, Turn(12)); }), 1.0);
+                        bench::Loop([] { return LunarToSolar(LunarDate(2026, 1 + Turn(12), 15, 0)); }),
+                        bench::Loop([] { return SinesAndCosines(1, Turn(12)); }), 1.0);
 }
 
 }  // namespace
@@ -88,13 +78,14 @@ int main(int argc, char** argv) {
     const SolarDate view(2026, 11, 23);
     const std::int64_t first = DaysBetween(view, birth) + 1;
     const std::int64_t last = DaysBetween(SolarDate(2076, 11, 23), birth);
-    bench::RegisterPair(
-        "remarkable days of 50 years",
-        Loop([=] { return FindRemarkableDays(birth, view, 50, true, true, DateOrder::dayFirst); }), Loop([=] {
-            std::int64_t from = first;
-            benchmark::DoNotOptimize(from);
-            return DaysByRemainders(from, last);
-        }),
-        10);
+    bench::RegisterPair("remarkable days of 50 years", bench::Loop([=] {
+                            return FindRemarkableDays(birth, view, 50, true, true, DateOrder::dayFirst);
+                        }),
+                        bench::Loop([=] {
+                            std::int64_t from = first;
+                            benchmark::DoNotOptimize(from);
+                            return DaysByRemainders(from, last);
+                        }),
+                        10);
     return bench::RunPairs(argc, argv);
 }

@@ -12,6 +12,16 @@ namespace quorix::bench {
 
 using Body = std::function<void(benchmark::State&)>;
 
+/// Runs `function` once per iteration and keeps its result alive.
+template <class Function>
+Body Loop(Function function) {
+    return [function](benchmark::State& state) {
+        for (auto _ : state) {
+            benchmark::DoNotOptimize(function());
+        }
+    };
+}
+
 /// How often each side of a pair is measured; the table shows medians.
 inline constexpr int kRounds = 7;
 

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "platform/utf8.h"
 #include "reference/formula_files.h"
 #include "reference/formula_sheet.h"
 #include "reference/formula_text.h"
@@ -31,12 +32,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         }
         std::vector<std::u16string> symbols;
         for (const FormulaParameter& parameter : detail->parameters) {
-            symbols.push_back(WideFormulaText(parameter.symbol));
+            symbols.push_back(FromUtf8OrLatin1(parameter.symbol));
             static_cast<void>(PlainFormulaText(parameter.unit));
         }
         const std::vector<std::u16string> values(symbols.size(), u"2");
         for (const std::string& form : detail->solvedForms) {
-            static_cast<void>(SubstituteSymbols(WideFormulaText(form), symbols, values));
+            static_cast<void>(SubstituteSymbols(FromUtf8OrLatin1(form), symbols, values));
         }
     }
     return 0;

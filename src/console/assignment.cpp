@@ -5,6 +5,7 @@
 
 #include "engine/text_fold.h"
 #include "engine/variable_store.h"
+#include "platform/trim.h"
 
 namespace quorix {
 namespace {
@@ -13,16 +14,6 @@ constexpr std::array<std::u16string_view, 10> kMatrixWords = {u"solve", u"inv", 
                                                               u"eigv",  u"rank", u"diag",  u"orth", u"tri"};
 // VLRE, which lies behind them, only keeps its place.
 constexpr int kLastUserSlot = SLOT_LIST - 2;
-
-bool IsBlank(char16_t c) {
-    return c == u' ' || c == u'\t';
-}
-
-std::u16string_view Trimmed(std::u16string_view text) {
-    while (!text.empty() && IsBlank(text.front())) text.remove_prefix(1);
-    while (!text.empty() && IsBlank(text.back())) text.remove_suffix(1);
-    return text;
-}
 
 int SettableSlot(std::u16string_view name) {
     const int slot = FindVariable(name);

@@ -8,6 +8,8 @@
 #include <filesystem>
 #include <memory>
 
+#include "platform/trim.h"
+
 namespace quorix {
 namespace {
 
@@ -61,12 +63,6 @@ class LineHistory {
     std::unique_ptr<History, HistoryCloser> lines_;
     std::string path_;
 };
-
-std::string_view Trimmed(std::string_view line) {
-    const std::size_t first = line.find_first_not_of(" \t\r\n");
-    if (first == std::string_view::npos) return {};
-    return line.substr(first, line.find_last_not_of(" \t\r\n") - first + 1);
-}
 
 }  // namespace
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "engine/number_locale.h"
+#include "engine/text_fold.h"
 #include "frontends/display_symbols.h"
 
 namespace quorix {
@@ -23,14 +24,8 @@ constexpr Replacement kNames[] = {
     {u"\u2211", u"fnSum"}, {u"\u0192", u"fnEval"},  {u"[ans]", u"[VRE]"},
 };
 
-constexpr bool IsDigit(char16_t c) {
-    return c >= u'0' && c <= u'9';
-}
 constexpr bool IsHexLetter(char16_t c) {
     return c >= u'A' && c <= u'F';
-}
-constexpr bool IsLetter(char16_t c) {
-    return (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z');
 }
 constexpr bool IsPoint(char16_t c) {
     return c == u'.' || c == kDisplayComma;
@@ -107,11 +102,11 @@ bool StartsFactorAfterParenthesis(char16_t next) {
 /// Whether the i at `at` is the imaginary unit or the end of pi, and not a letter of another word.
 bool IsConstantI(u16string_view text, std::size_t at) {
     std::size_t begin = at;
-    while (begin > 0 && IsLetter(text[begin - 1])) {
+    while (begin > 0 && IsAsciiLetter(text[begin - 1])) {
         --begin;
     }
     std::size_t end = at + 1;
-    while (end < text.size() && IsLetter(text[end])) {
+    while (end < text.size() && IsAsciiLetter(text[end])) {
         ++end;
     }
     u16string_view word = text.substr(begin, end - begin);

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "frontends/result_fit.h"
+#include "platform/qt/conversions.h"
 #include "platform/qt/fonts.h"
 #include "platform/qt/pictures.h"
 
@@ -40,10 +41,6 @@ constexpr double kArrowHalfHeight = 5;
 
 QColor ColorOf(Rgb color) {
     return QColor::fromRgb(color);
-}
-
-QRect ToQRect(const Rect& rect) {
-    return {rect.left, rect.top, rect.Width(), rect.Height()};
 }
 
 double BaselineOf(double units, int scale) {

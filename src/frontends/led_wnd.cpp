@@ -9,6 +9,7 @@
 #include <cstdlib>
 
 #include "frontends/context_menu.h"
+#include "platform/qt/conversions.h"
 
 namespace quorix {
 
@@ -18,10 +19,6 @@ namespace {
 constexpr int kGestureTimer = 1118;
 /// A pen that strays farther than this, in device pixels, is no longer held still.
 constexpr int kStillRadius = 6;
-
-QString ToQString(std::u16string_view text) {
-    return QString::fromUtf16(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 }  // namespace
 

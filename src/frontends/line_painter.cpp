@@ -6,6 +6,7 @@
 
 #include "engine/number_locale.h"
 #include "frontends/token_colors.h"
+#include "platform/qt/conversions.h"
 
 namespace quorix {
 
@@ -13,14 +14,10 @@ namespace {
 
 constexpr int kCursorHeight = 2;
 
-QRect ToQRect(const Rect& rect) {
-    return {rect.left, rect.top, rect.Width(), rect.Height()};
-}
-
 }  // namespace
 
 QString PaintedText(std::u16string_view text) {
-    QString painted = QString::fromUtf16(text.data(), static_cast<qsizetype>(text.size()));
+    QString painted = ToQString(text);
     return painted.replace(QChar(kDisplayComma), QLatin1Char(','));
 }
 

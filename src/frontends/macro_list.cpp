@@ -7,6 +7,7 @@
 #include "engine/calc_context.h"
 #include "engine/number_locale.h"
 #include "frontends/token_line.h"
+#include "platform/trim.h"
 
 namespace quorix {
 
@@ -25,16 +26,6 @@ bool SortsBelow(std::u16string_view a, std::u16string_view b) {
 
 bool SameName(std::u16string_view a, std::u16string_view b) {
     return !SortsBelow(a, b) && !SortsBelow(b, a);
-}
-
-std::u16string_view Trimmed(std::u16string_view text) {
-    while (!text.empty() && text.front() == u' ') {
-        text.remove_prefix(1);
-    }
-    while (!text.empty() && text.back() == u' ') {
-        text.remove_suffix(1);
-    }
-    return text;
 }
 
 void ReplaceAll(std::u16string& text, std::u16string_view what, std::u16string_view by) {

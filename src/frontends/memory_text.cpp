@@ -8,6 +8,7 @@
 #include "engine/format_value.h"
 #include "engine/identifiers.h"
 #include "engine/number_locale.h"
+#include "engine/text_fold.h"
 #include "frontends/engine_text.h"
 #include "numerics/constants.h"
 #include "numerics/qcore.h"
@@ -15,10 +16,6 @@
 namespace quorix {
 
 namespace {
-
-constexpr bool IsDigit(char16_t c) {
-    return c >= u'0' && c <= u'9';
-}
 
 /// "1.5e-12" becomes "1.5exp(-12)": the parenthesis closes right behind the digits.
 std::u16string WithExponentOperator(std::u16string_view text) {

@@ -8,6 +8,7 @@
 #include <cmath>
 #include <cstdlib>
 
+#include "platform/qt/conversions.h"
 #include "platform/qt/pictures.h"
 #include "platform/qt/popup_menu.h"
 
@@ -21,10 +22,6 @@ constexpr int kGestureTimer = 1118;
 constexpr int kStillRadius = 6;
 /// Base line of the text below the middle of the box, in units.
 constexpr double kBaselineBelowMiddle = 5.4;
-
-QString ToQString(std::u16string_view text) {
-    return QString::fromUtf16(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 struct EditingKey {
     int qtKey;

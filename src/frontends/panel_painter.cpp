@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <cmath>
 
+#include "platform/qt/conversions.h"
 #include "platform/qt/fonts.h"
 #include "platform/qt/pictures.h"
 
@@ -22,10 +23,6 @@ constexpr int kPressedDrop = 2;  // Units that a pressed label stands lower.
 
 constexpr TextFont kWordFont = {.em = 12};
 constexpr TextFont kLandscapeFont = {.em = 14, .weight = kBoldWeight};
-
-QRect ToQRect(const Rect& rect) {
-    return {rect.left, rect.top, rect.Width(), rect.Height()};
-}
 
 }  // namespace
 

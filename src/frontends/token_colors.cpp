@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "engine/text_fold.h"
 #include "frontends/display_symbols.h"
 
 namespace quorix {
@@ -9,10 +10,6 @@ namespace quorix {
 namespace {
 
 constexpr char16_t kEuropeanPoint = 0x00B8;
-
-constexpr bool IsDigit(char16_t c) {
-    return c >= u'0' && c <= u'9';
-}
 
 struct SignColor {
     char16_t sign;

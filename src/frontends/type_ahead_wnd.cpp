@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "platform/qt/conversions.h"
 #include "platform/qt/fonts.h"
 #include "platform/qt/pictures.h"
 
@@ -25,10 +26,6 @@ constexpr int kBarWidth = 3;
 
 QFont FontOf(bool bold, int scale) {
     return ScreenFont({.em = kTextEm, .weight = bold ? kBoldWeight : kMediumWeight}, scale);
-}
-
-QString ToQString(std::u16string_view text) {
-    return QString::fromUtf16(text.data(), static_cast<qsizetype>(text.size()));
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 
 #include "engine/number_grammar.h"
 #include "engine/text_fold.h"
+#include "platform/trim.h"
 #include "platform/utf8.h"
 
 namespace quorix {
@@ -15,12 +16,6 @@ constexpr char16_t kMinusSign = u'\u2212';
 
 bool IsBlank(char16_t c) {
     return c == u' ' || c == u'\t';
-}
-
-std::u16string_view Trimmed(std::u16string_view text) {
-    while (!text.empty() && IsBlank(text.front())) text.remove_prefix(1);
-    while (!text.empty() && IsBlank(text.back())) text.remove_suffix(1);
-    return text;
 }
 
 // The number in the engine's grammar, which knows neither leading points nor other signs.

@@ -4,6 +4,8 @@
 #include <charconv>
 #include <optional>
 
+#include "platform/trim.h"
+
 namespace quorix {
 
 namespace {
@@ -12,12 +14,6 @@ constexpr std::size_t kMostChunkLine = 256;
 
 constexpr char LowerCase(char c) {
     return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c;
-}
-
-std::string_view Trim(std::string_view text) {
-    const std::size_t first = text.find_first_not_of(" \t\r");
-    return first == text.npos ? std::string_view()
-                              : text.substr(first, text.find_last_not_of(" \t\r") - first + 1);
 }
 
 bool SameName(std::string_view a, std::string_view b) {
@@ -139,7 +135,7 @@ void HttpAnswer::FinishHead() {
 void HttpAnswer::ReadHeaderLine(std::string_view line) {
     const std::size_t colon = std::min(line.find(':'), line.size());
     const std::string_view name = line.substr(0, colon);
-    const std::string_view value = Trim(line.substr(std::min(colon + 1, line.size())));
+    const std::string_view value = Trimmed(line.substr(std::min(colon + 1, line.size())));
     if (SameName(name, "Content-Length")) {
         const auto length = ReadSize(value, 10);
         hasLength_ = length.has_value();
@@ -193,7 +189,7 @@ void HttpAnswer::TakeChunked(std::span<const std::uint8_t> bytes) {
 
 // The trailer behind the last chunk is not waited for.
 void HttpAnswer::FinishChunkSize() {
-    const auto size = ReadSize(Trim(std::string_view(chunkLine_).substr(0, chunkLine_.find(';'))), 16);
+    const auto size = ReadSize(Trimmed(std::string_view(chunkLine_).substr(0, chunkLine_.find(';'))), 16);
     chunkLine_.clear();
     if (!size) {
         state_ = State::failed;

@@ -18,7 +18,7 @@ std::filesystem::path FindEntry(const std::filesystem::path& folder, const std::
          it.increment(error)) {
         std::filesystem::path entry = it->path().filename();
         try {
-            if (EqualsIgnoringCase(entry.u16string(), name) && (found.empty() || entry < found)) {
+            if (SameFileName(entry.u16string(), name) && (found.empty() || entry < found)) {
                 found = std::move(entry);
             }
         } catch (const std::system_error&) {
@@ -38,7 +38,7 @@ char16_t FoldCase(char16_t c) {
     return ascii || latin ? static_cast<char16_t>(c + 0x20) : c;
 }
 
-bool EqualsIgnoringCase(std::u16string_view a, std::u16string_view b) {
+bool SameFileName(std::u16string_view a, std::u16string_view b) {
     return std::equal(a.begin(), a.end(), b.begin(), b.end(),
                       [](char16_t x, char16_t y) { return FoldCase(x) == FoldCase(y); });
 }

@@ -16,7 +16,7 @@ std::filesystem::path ResolvePath(const std::filesystem::path& folder, std::u16s
 /// The small letter of A to Z and of the capitals of Latin-1; any other character as it is.
 char16_t FoldCase(char16_t c);
 
-/// True when both texts are equal but for the case of letters A to Z and of the letters of Latin-1.
-bool EqualsIgnoringCase(std::u16string_view a, std::u16string_view b);
+/// True when both names are equal but for the case of letters A to Z and of the letters of Latin-1.
+bool SameFileName(std::u16string_view a, std::u16string_view b);
 
 }  // namespace quorix

@@ -84,4 +84,16 @@ std::u16string FromUtf8(std::string_view text) {
     return out;
 }
 
+std::u16string FromUtf8OrLatin1(std::string_view text) {
+    std::u16string wide = FromUtf8(text);
+    const bool malformed = wide.find(u'\uFFFD') != wide.npos && text.find("\xEF\xBF\xBD") == text.npos;
+    if (malformed) {
+        wide.clear();
+        for (const char c : text) {
+            wide += static_cast<unsigned char>(c);
+        }
+    }
+    return wide;
+}
+
 }  // namespace quorix

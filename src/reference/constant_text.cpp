@@ -3,7 +3,8 @@
 #include <algorithm>
 
 #include "engine/number_locale.h"
-#include "platform/path.h"
+#include "engine/text_fold.h"
+#include "platform/trim.h"
 
 namespace quorix {
 
@@ -14,13 +15,6 @@ constexpr std::u16string_view kFormulaGroups[] = {u"Area Formula", u"Volume Form
 bool HoldsFormulas(std::u16string_view group) {
     return std::ranges::any_of(kFormulaGroups,
                                [&](std::u16string_view name) { return EqualsIgnoringCase(name, group); });
-}
-
-std::u16string_view Trim(std::u16string_view text) {
-    constexpr std::u16string_view kBlanks = u" \t\r\n";
-    const std::size_t first = text.find_first_not_of(kBlanks);
-    return first == text.npos ? std::u16string_view()
-                              : text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
 }
 
 /// "1.5e+3" as "1.5exp(3)".
@@ -43,7 +37,7 @@ std::u16string ShownConstant(std::u16string_view value, std::u16string_view numb
 
 std::u16string ConstantForEditor(std::u16string_view shown, std::u16string_view group,
                                  std::u16string_view numberLocale) {
-    std::u16string text(Trim(shown));
+    std::u16string text(Trimmed(shown));
     text.resize(std::min(text.find(u' '), text.size()));
     // A value that was shown under another locale has that one's decimal sign.
     std::replace(text.begin(), text.end(), kDisplayComma, u'.');

@@ -3,6 +3,8 @@
 #include <exception>
 #include <utility>
 
+#include "engine/number_locale.h"
+#include "engine/text_fold.h"
 #include "platform/path.h"
 #include "platform/utf8.h"
 #include "reference/constant_text.h"
@@ -98,6 +100,7 @@ void Converter::ShowUnits() {
         return;
     }
     state_.Field(catField).label = category.name;
+    state_.unitCategoryIndex = 0;
     std::vector<UnitRecord> rows;
     reader.ReadUnitRows(category.name, rows);
     if (rows.size() < 2) {
@@ -151,6 +154,18 @@ void Converter::ShowConstants() {
         state_.Field(constItem).label = rows.front().name;
         state_.Field(constValue).label = ShownConstant(rows.front().value, ports_.numberLocale);
     }
+}
+
+void Converter::ExchangeDecimalSigns() {
+    for (const ConverterField field : {unitFrom, unitTo, curFrom, curTo}) {
+        std::u16string& text = state_.Field(field).value;
+        // Messages, and results in the "%.8e" form, have "." in every locale.
+        const std::u16string_view digits = std::u16string_view(text).substr(text.starts_with(u'-') ? 1 : 0);
+        if (!digits.empty() && IsDigit(digits.front()) && digits.find(u'e') == digits.npos) {
+            quorix::ExchangeDecimalSigns(text);
+        }
+    }
+    quorix::ExchangeDecimalSigns(state_.Field(constValue).label);
 }
 
 bool Converter::Convert(std::u16string_view fromName, double value, std::u16string_view toName,

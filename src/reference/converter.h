@@ -69,6 +69,7 @@ struct PressOutcome {
 /// Keys of the converter that have no character of their own.
 inline constexpr int kConverterTab = 9;
 inline constexpr int kConverterBackspace = 8;
+inline constexpr int kConverterEnter = 13;
 inline constexpr int kConverterEscape = 27;
 /// The timer that starts a rate update, and its delay.
 inline constexpr int kUpdateTimer = 1000;
@@ -91,11 +92,13 @@ class Converter {
     [[nodiscard]] const ConverterState& State() const { return state_; }
     /// The field that is typed into; nothing among the constants.
     [[nodiscard]] std::optional<ConverterField> ActiveField() const;
+    /// Writes all fields in the signs of the other locale, for a change of the preference.
+    void ExchangeDecimalSigns();
     [[nodiscard]] UnitTable& Table() { return table_; }
     [[nodiscard]] const std::filesystem::path& CurrencyFile() const { return currencyFile_; }
 
     /// True when the key was consumed; among the constants none is. Keys are characters and the kConverter
-    /// codes.
+    /// codes. From a keyboard "_" changes the sign as "~" does, and "," is the point where the locale has it.
     bool OnKey(int keyCode);
     /// A tap on a field: typing goes on from the number it shows.
     void OnFieldPressed(ConverterField field);

@@ -1,5 +1,6 @@
 // The typed fields of the converter: keys to tokens, tokens to both fields.
 
+#include "engine/number_locale.h"
 #include "reference/converter.h"
 #include "reference/number_entry.h"
 #include "reference/number_text.h"
@@ -72,11 +73,19 @@ bool Converter::OnKey(int keyCode) {
         case 'C':
         case kConverterEscape: ClearBoth(); return true;
         case '.': Feed(u".."); return true;
+        case ',':
+            if (SignsOf(ports_.numberLocale).decimal != kDisplayComma) {
+                return false;
+            }
+            Feed(u"..");
+            return true;
         case kConverterBackspace: Feed(u"\b"); return true;
-        case '~': ChangeSign(); return true;
+        case '~':
+        case '_': ChangeSign(); return true;
         case 'M': StoreMemory(); return true;
         case 'R': RecallMemory(); return true;
-        case '=': Equals(); return true;
+        case '=':
+        case kConverterEnter: Equals(); return true;
         default: break;
     }
     constexpr std::u16string_view kOwnTokens = u"0123456789+-*/";

@@ -159,9 +159,10 @@ void Converter::ChooseUnit(int side, int index, const ListItem& item) {
     }
     ShowConverted(side);
     if (side == ActiveSide()) {
-        // Typing goes on from the number that now stands there.
+        // The number that now stands there is a result: a sign works on it, a digit begins a new one.
         NumberEntry::Clear();
         EnterActiveNumber();
+        NumberEntry::Send(u"=");
     }
 }
 

@@ -35,8 +35,11 @@ bool CurrencyTable::Store(std::span<const std::u16string> rates, const std::file
     }
     const std::size_t count = std::min({rates.size(), rows_.size(), table_.Records().size()});
     for (std::size_t i = 0; i < count; ++i) {
+        const UnitRecord& record = table_.Records()[i];
+        // An update may have put other rows in the place of those on show.
+        const bool isEdited = rates[i] != rows_[i].rate && record.symbol == rows_[i].symbol;
         const double rate = LeadingNumber(rates[i]);
-        if (rate > 0 && 1 / rate > 0 && rates[i] != rows_[i].rate && !table_.Records()[i].IsBase()) {
+        if (isEdited && rate > 0 && 1 / rate > 0 && !record.IsBase()) {
             table_.SetFactor(i, 1 / rate);
         }
     }

@@ -28,14 +28,6 @@ bool Separates(char c, std::uint8_t mask) {
     return (kSeparatorBits[static_cast<unsigned char>(c)] & mask) != 0;
 }
 
-std::u16string FromLatin1(std::string_view text) {
-    std::u16string wide;
-    for (const char c : text) {
-        wide += static_cast<unsigned char>(c);
-    }
-    return wide;
-}
-
 }  // namespace
 
 DataLines::DataLines(std::string_view text, std::size_t longest) : rest_(text), longest_(longest) {
@@ -85,9 +77,7 @@ std::u16string WidenField(std::string_view field) {
     if (std::all_of(field.begin(), field.end(), isAscii)) {
         return std::u16string(field.begin(), field.end());
     }
-    std::u16string wide = FromUtf8(field);
-    const bool malformed = wide.find(u'\uFFFD') != wide.npos && field.find("\xEF\xBF\xBD") == field.npos;
-    return malformed ? FromLatin1(field) : wide;
+    return FromUtf8OrLatin1(field);
 }
 
 std::u16string NameOfField(std::string_view field) {

@@ -4,6 +4,7 @@
 #include <string>
 #include <utility>
 
+#include "platform/trim.h"
 #include "reference/formula_lines.h"
 
 namespace quorix {
@@ -94,10 +95,10 @@ std::string_view ImportParser::TakeLine(std::string_view line) {
     if (state_ == State::outside || equals == line.npos) {
         return {};
     }
-    const std::string_view name = TrimFormulaText(line.substr(0, equals));
+    const std::string_view name = Trimmed(line.substr(0, equals));
     for (const Tag& tag : kTags) {
         if (EqualsFormulaTag(name, tag.name)) {
-            return (this->*tag.handler)(TrimFormulaText(line.substr(equals + 1)));
+            return (this->*tag.handler)(Trimmed(line.substr(equals + 1)));
         }
     }
     return {};
@@ -228,7 +229,7 @@ FormulaImport ParseFormulaImport(std::span<const std::uint8_t> bytes) {
         if (line.find('\0') != line.npos) {
             return refuse(number, kNulByte);
         }
-        if (const std::string_view message = parser.TakeLine(TrimFormulaText(line)); !message.empty()) {
+        if (const std::string_view message = parser.TakeLine(Trimmed(line)); !message.empty()) {
             return refuse(number, message);
         }
     }

@@ -1,6 +1,6 @@
 #pragma once
 
-// Lines and blanks of the library's 8-bit texts.
+// Lines and tags of the library's 8-bit texts.
 
 #include <algorithm>
 #include <charconv>
@@ -14,12 +14,6 @@ inline std::string_view TakeFormulaLine(std::string_view& text) {
     const std::string_view line = text.substr(0, end);
     text.remove_prefix(std::min(end + 1, text.size()));
     return line;
-}
-
-inline std::string_view TrimFormulaText(std::string_view text) {
-    constexpr std::string_view kBlanks = " \t\r\n\v\f";
-    text.remove_prefix(std::min(text.find_first_not_of(kBlanks), text.size()));
-    return text.substr(0, text.find_last_not_of(kBlanks) + 1);
 }
 
 inline constexpr char FoldFormulaCase(char c) {

@@ -9,8 +9,10 @@
 #include "engine/evaluate.h"
 #include "engine/format_value.h"
 #include "engine/identifiers.h"
+#include "engine/text_fold.h"
 #include "numerics/qcore.h"
-#include "reference/formula_text.h"
+#include "platform/trim.h"
+#include "platform/utf8.h"
 
 namespace quorix {
 
@@ -26,22 +28,12 @@ constexpr int kShownDigits = 12;
 
 constexpr std::string_view kDegreeMarks[] = {"^o", "^0"};
 
-std::u16string_view Trim(std::u16string_view text) {
-    constexpr std::u16string_view kBlanks = u" \t\r\n";
-    text.remove_prefix(std::min(text.find_first_not_of(kBlanks), text.size()));
-    return text.substr(0, text.find_last_not_of(kBlanks) + 1);
-}
-
 bool IsBlank(std::u16string_view text) {
-    return Trim(text).empty();
-}
-
-constexpr bool IsDigit(char16_t c) {
-    return c >= u'0' && c <= u'9';
+    return Trimmed(text).empty();
 }
 
 /// Part of a word: symbols may have primes and letters beyond ASCII.
-constexpr bool IsWordCharacter(char16_t c) {
+constexpr bool IsSymbolCharacter(char16_t c) {
     return IsDigit(c) || (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z') || c == u'_' || c == u'\'' ||
            c >= 0x80;
 }
@@ -68,9 +60,9 @@ SymbolMatch LongestSymbol(std::u16string_view text, std::span<const std::u16stri
             continue;
         }
         const char16_t next = symbol.size() < text.size() ? text[symbol.size()] : u' ';
-        const bool endsInWord = IsWordCharacter(symbol.back());
+        const bool endsInWord = IsSymbolCharacter(symbol.back());
         // The expression language has no implied product: a word in front of "(" is a function.
-        if (!endsInWord || (!IsWordCharacter(next) && next != u'(')) {
+        if (!endsInWord || (!IsSymbolCharacter(next) && next != u'(')) {
             best = {k, symbol.size()};
         }
     }
@@ -80,7 +72,7 @@ SymbolMatch LongestSymbol(std::u16string_view text, std::span<const std::u16stri
 /// Length of the number or word at the start of `text`; at least 1.
 std::size_t SkippedLength(std::u16string_view text) {
     const auto belongs = IsDigit(text.front()) ? [](char16_t c) { return IsDigit(c) || c == u'.'; }
-                                               : [](char16_t c) { return IsWordCharacter(c); };
+                                               : [](char16_t c) { return IsSymbolCharacter(c); };
     const auto end = std::find_if_not(text.begin(), text.end(), belongs);
     return std::max<std::size_t>(static_cast<std::size_t>(end - text.begin()), 1);
 }
@@ -122,7 +114,7 @@ std::u16string ShownText(const QReal& value) {
 }  // namespace
 
 std::u16string ExponentAsPower(std::u16string_view number) {
-    const std::u16string_view trimmed = Trim(number);
+    const std::u16string_view trimmed = Trimmed(number);
     const std::size_t mark = trimmed.find_first_of(u"Ee");
     if (mark == trimmed.npos || mark == 0 || mark + 1 == trimmed.size()) {
         return std::u16string(number);
@@ -172,12 +164,12 @@ FormulaSheet::FormulaSheet(FormulaDetail detail)
 }
 
 bool FormulaSheet::HasSolvedForm(std::size_t k) const {
-    return k < detail_.solvedForms.size() && !IsBlank(WideFormulaText(detail_.solvedForms[k]));
+    return k < detail_.solvedForms.size() && !IsBlank(FromUtf8OrLatin1(detail_.solvedForms[k]));
 }
 
 void FormulaSheet::Reset() {
     for (std::size_t k = 0; k < fields_.size(); ++k) {
-        fields_[k] = WideFormulaText(detail_.parameters[k].preset);
+        fields_[k] = FromUtf8OrLatin1(detail_.parameters[k].preset);
     }
 }
 
@@ -186,11 +178,11 @@ std::u16string FormulaSheet::FilledForm(std::size_t k) const {
     std::vector<std::u16string> values;
     for (std::size_t i = 0; i < fields_.size(); ++i) {
         if (i != k) {
-            symbols.emplace_back(Trim(WideFormulaText(detail_.parameters[i].symbol)));
+            symbols.emplace_back(Trimmed(FromUtf8OrLatin1(detail_.parameters[i].symbol)));
             values.push_back(ExponentAsPower(fields_[i]));
         }
     }
-    return SubstituteSymbols(WideFormulaText(detail_.solvedForms[k]), symbols, values);
+    return SubstituteSymbols(FromUtf8OrLatin1(detail_.solvedForms[k]), symbols, values);
 }
 
 FormulaOutcome FormulaSheet::Calculate(std::int32_t angleUnit) {

@@ -34,6 +34,7 @@ class FormulaSheet {
     /// False when a parameter is an angle in degrees: the sheet then always computes in degrees.
     [[nodiscard]] bool MayChooseAngleUnit() const { return mayChooseAngleUnit_; }
 
+    /// Fields are in the engine's notation with "." as decimal sign, also those that Calculate fills.
     [[nodiscard]] const std::u16string& Field(std::size_t k) const { return fields_[k]; }
     void SetField(std::size_t k, std::u16string_view text) { fields_[k] = text; }
     /// Empties every field that has no preset.

@@ -27,20 +27,8 @@ constexpr Replacement kReplacements[] = {
 
 }  // namespace
 
-std::u16string WideFormulaText(std::string_view bytes) {
-    std::u16string text = FromUtf8(bytes);
-    constexpr char16_t kMalformed = 0xFFFD;
-    if (text.find(kMalformed) == text.npos) {
-        return text;
-    }
-    text.clear();
-    std::transform(bytes.begin(), bytes.end(), std::back_inserter(text),
-                   [](char c) { return static_cast<char16_t>(static_cast<unsigned char>(c)); });
-    return text;
-}
-
 std::u16string PlainFormulaText(std::string_view tex) {
-    const std::u16string wide = WideFormulaText(tex);
+    const std::u16string wide = FromUtf8OrLatin1(tex);
     std::u16string_view rest = wide;
     std::u16string plain;
     while (!rest.empty()) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "platform/trim.h"
 #include "reference/formula_lines.h"
 
 namespace quorix {
@@ -11,7 +12,7 @@ std::string FormulaTreeLine(const FormulaNode& node) {
 }
 
 std::optional<FormulaNode> ParseFormulaTreeLine(std::string_view line) {
-    line = TrimFormulaText(line);
+    line = Trimmed(line);
     const std::size_t first = line.find('=');
     const std::size_t last = line.rfind('=');
     if (!line.starts_with('.') || first == last || line.size() > kLongestTreeLine ||
@@ -21,7 +22,7 @@ std::optional<FormulaNode> ParseFormulaTreeLine(std::string_view line) {
     FormulaNode node;
     node.id = ParseFormulaId(line.substr(1, first - 1));
     node.name = line.substr(first + 1, last - first - 1);
-    node.type = LeadingFormulaInteger(TrimFormulaText(line.substr(last + 1)));
+    node.type = LeadingFormulaInteger(Trimmed(line.substr(last + 1)));
     return node.id == 0 ? std::nullopt : std::optional(std::move(node));
 }
 

@@ -2,7 +2,7 @@
 
 #include <system_error>
 
-#include "platform/path.h"
+#include "engine/text_fold.h"
 #include "reference/currency_downloader.h"
 #include "reference/currency_file.h"
 

@@ -3,6 +3,7 @@
 #include <charconv>
 
 #include "platform/files.h"
+#include "platform/trim.h"
 #include "reference/data_line.h"
 
 namespace quorix {
@@ -20,13 +21,6 @@ constexpr TextSetting kTextSettings[] = {
     {"user", &UpdateSettings::userName},
     {"password", &UpdateSettings::password},
 };
-
-std::string_view Trim(std::string_view text) {
-    constexpr std::string_view kBlanks = " \t\r";
-    const std::size_t first = text.find_first_not_of(kBlanks);
-    return first == text.npos ? std::string_view()
-                              : text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
-}
 
 void ReadSetting(std::string_view key, std::string_view value, UpdateSettings& settings) {
     for (const auto& [name, text] : kTextSettings) {
@@ -52,10 +46,10 @@ UpdateSettings ReadUpdateSettings(const std::filesystem::path& path) {
     }
     DataLines lines({reinterpret_cast<const char*>(bytes->data()), bytes->size()}, kLongestGroupLine);
     for (DataLine line; lines.Next(line);) {
-        const std::string_view text = Trim(line.text);
+        const std::string_view text = Trimmed(line.text);
         const std::size_t equals = text.find('=');
         if (!line.damaged && !text.starts_with('#') && equals != text.npos) {
-            ReadSetting(Trim(text.substr(0, equals)), Trim(text.substr(equals + 1)), settings);
+            ReadSetting(Trimmed(text.substr(0, equals)), Trimmed(text.substr(equals + 1)), settings);
         }
     }
     return settings;

@@ -2,6 +2,7 @@
 
 #include <QPainter>
 
+#include "platform/qt/conversions.h"
 #include "platform/qt/fonts.h"
 #include "platform/qt/pictures.h"
 
@@ -29,7 +30,7 @@ void EmptyPageWnd::Paint(QPainter& painter, const Rect& /*dirty*/) {
     painter.setFont(ScreenFont(kNameFont, Scale()));
     const std::u16string_view name = kCategoryNames[static_cast<std::size_t>(Category())];
     painter.drawText(QRect(left, middle - kNameHeight * Scale(), place.Width() - left, kNameHeight * Scale()),
-                     Qt::AlignCenter, QString::fromUtf16(name.data(), static_cast<qsizetype>(name.size())));
+                     Qt::AlignCenter, ToQString(name));
     painter.setFont(ScreenFont(kNoteFont, Scale()));
     painter.drawText(QRect(left, middle, place.Width() - left, kNoteHeight * Scale()), Qt::AlignCenter,
                      QStringLiteral("This page has no content yet."));

@@ -2,18 +2,11 @@
 
 #include <algorithm>
 
+#include "platform/trim.h"
+
 namespace quorix {
 
 namespace {
-
-std::string_view Trim(std::string_view text) {
-    constexpr std::string_view kBlanks = " \t\r\n";
-    const std::size_t first = text.find_first_not_of(kBlanks);
-    if (first == text.npos) {
-        return {};
-    }
-    return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
-}
 
 constexpr char FoldCase(char c) {
     return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c;
@@ -32,7 +25,7 @@ void ForEachKeyValue(std::span<const std::uint8_t> text,
         if (equals == line.npos || equals == 0) {
             continue;
         }
-        if (!take(Trim(line.substr(0, equals)), Trim(line.substr(equals + 1)))) {
+        if (!take(Trimmed(line.substr(0, equals)), Trimmed(line.substr(equals + 1)))) {
             return;
         }
     }

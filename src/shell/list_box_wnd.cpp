@@ -5,6 +5,7 @@
 #include <QWheelEvent>
 #include <algorithm>
 
+#include "platform/qt/conversions.h"
 #include "platform/qt/fonts.h"
 #include "platform/qt/pictures.h"
 
@@ -27,10 +28,6 @@ constexpr std::pair<int, ListKey> kListKeys[] = {
     {Qt::Key_Return, ListKey::choose}, {Qt::Key_Enter, ListKey::choose},
     {Qt::Key_Escape, ListKey::close},
 };
-
-QRect ToQRect(const Rect& rect) {
-    return {rect.left, rect.top, rect.Width(), rect.Height()};
-}
 
 }  // namespace
 

@@ -4,6 +4,7 @@
 #include <QMessageBox>
 
 #include "platform/path.h"
+#include "platform/qt/conversions.h"
 #include "shell/about_dialog.h"
 #include "shell/main_frame_wnd.h"
 #include "shell/module_factories.h"
@@ -84,8 +85,7 @@ void MainFrameWnd::ShowNotice(const QString& text) {
 }
 
 void MainFrameWnd::ShowMissing(std::u16string_view name) {
-    ShowNotice(QStringLiteral("%1 is not part of this version.")
-                   .arg(QString::fromUtf16(name.data(), static_cast<qsizetype>(name.size()))));
+    ShowNotice(QStringLiteral("%1 is not part of this version.").arg(ToQString(name)));
 }
 
 void MainFrameWnd::OpenPreferences() {
@@ -163,7 +163,7 @@ constexpr PanelCell CellOfIndex(int index) {
 
 QString MainFrameWnd::AccessibleCellName(int index) const {
     const std::u16string_view name = frame_->SpokenName(CellOfIndex(index));
-    return QString::fromUtf16(name.data(), static_cast<qsizetype>(name.size()));
+    return ToQString(name);
 }
 
 QRect MainFrameWnd::AccessibleCellRect(int index) const {

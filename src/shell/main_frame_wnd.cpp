@@ -7,6 +7,7 @@
 
 #include "equations/tex_for_copy.h"
 #include "platform/dense_picture.h"
+#include "platform/qt/conversions.h"
 #include "platform/qt/pictures.h"
 
 namespace quorix {
@@ -251,7 +252,7 @@ void MainFrameWnd::PaintPanels(QPainter& painter, const Rect& dirty) {
             const bool down = frame_->Looks().LooksDown(cell);
             if (const MacroPadLabel* const label = MacroLabelOf(cell)) {
                 panels_.PaintLowerCellAs(painter, orientation, Scale(), index, down, label->labelOf,
-                                         QString::fromUtf16(label->text));
+                                         ToQString(label->text));
             } else {
                 panels_.PaintCell(painter, orientation, Scale(), cell, down);
             }

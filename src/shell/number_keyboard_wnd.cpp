@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QPainter>
 
+#include "platform/qt/conversions.h"
 #include "platform/qt/pictures.h"
 
 namespace quorix {
@@ -110,7 +111,7 @@ void MorvaneCalNumberKeyboardWnd::PaintCell(QPainter& painter, int cell) {
     const int left = source.left + (down ? looks * kPictureCellWidth : 0);
     const auto pixels = [unit](int units) { return static_cast<int>(units * unit); };
     const QRect part(pixels(left), pixels(row), pixels(source.Width()), pixels(kPictureCellHeight));
-    painter.setClipRect(QRect(place.left, place.top, place.Width(), place.Height()));
+    painter.setClipRect(ToQRect(place));
     DrawPicture(painter, QPointF(place.left, place.top), picture, part);
     painter.setClipping(false);
 }

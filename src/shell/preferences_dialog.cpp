@@ -16,6 +16,7 @@
 
 #include "platform/dense_picture.h"
 #include "platform/path.h"
+#include "platform/qt/conversions.h"
 #include "platform/qt/fonts.h"
 #include "platform/qt/pictures.h"
 #include "shell/preferences_pages.h"
@@ -32,10 +33,6 @@ constexpr int kMostFixDigits = 32;
 /// Role under which a row keeps what it stands for.
 constexpr int kValueRole = Qt::UserRole;
 constexpr QSize kPreviewUnits(120, 147);
-
-QString ToQString(std::u16string_view text) {
-    return QString::fromUtf16(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 QSlider* NewSlider(int least, int most, int value) {
     auto* const slider = new QSlider(Qt::Horizontal);
@@ -63,7 +60,7 @@ void FillFiles(QListWidget& list, const std::vector<FileChoice>& files, std::u16
     for (const FileChoice& file : files) {
         auto* const row = new QListWidgetItem(ToQString(file.shown), &list);
         row->setData(kValueRole, ToQString(file.file));
-        if (EqualsIgnoringCase(file.file, chosen)) {
+        if (SameFileName(file.file, chosen)) {
             list.setCurrentItem(row);
         }
     }

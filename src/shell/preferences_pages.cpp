@@ -37,7 +37,7 @@ std::vector<FileChoice> FilesIn(const std::filesystem::path& programFolder, std:
 std::vector<FileChoice> SkinChoices(const std::filesystem::path& programFolder) {
     std::vector<FileChoice> skins = FilesIn(programFolder, u"Interfaces\\*.inf");
     const auto standard = std::find_if(skins.begin(), skins.end(), [](const FileChoice& skin) {
-        return EqualsIgnoringCase(skin.file, u"default.inf");
+        return SameFileName(skin.file, u"default.inf");
     });
     if (standard != skins.end()) {
         standard->shown = u"Default";

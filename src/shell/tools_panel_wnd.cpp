@@ -6,6 +6,7 @@
 #include <cmath>
 
 #include "platform/dense_picture.h"
+#include "platform/qt/conversions.h"
 #include "platform/qt/fonts.h"
 #include "platform/qt/pictures.h"
 
@@ -29,14 +30,6 @@ constexpr int kSheetCorner = 30;
 constexpr int kFocusRadius = 4;
 constexpr int kTileLooks = 3;
 enum TileLook : int { TILE_PLAIN = 0, TILE_PRESSED = 1, TILE_CHOSEN = 2 };
-
-QRect ToQRect(const Rect& rect) {
-    return {rect.left, rect.top, rect.Width(), rect.Height()};
-}
-
-QString ToQString(std::u16string_view text) {
-    return QString::fromUtf16(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 }  // namespace
 

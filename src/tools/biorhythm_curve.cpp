@@ -17,7 +17,7 @@ class CurveDrawing {
         const double k = span != 0.0 ? (middle - vertexHeight) / (span * span) : 0.0;
         for (int column = std::max(2 * vertex - reach, 0); column <= std::min(reach, width_); ++column) {
             const double distance = static_cast<double>(column) - vertex;
-            const double y = k * distance * distance + vertexHeight;
+            const double y = k * (distance * distance) + vertexHeight;
             if (column == width_ / 2) {
                 const auto full = static_cast<float>(height_);
                 curve.percentage = (full - static_cast<float>(y)) / full * 100.0F;

@@ -77,7 +77,15 @@ void BiorhythmPage::ShowCurrentPerson() {
     }
 }
 
-std::u16string BiorhythmPage::BuildReport() const {
+BiorhythmGraph BiorhythmPage::Draw(const Rect& rectangle) {
+    drawn_ = rectangle;
+    return biorhythm_.Draw(rectangle, birth_, view_);
+}
+
+std::u16string BiorhythmPage::BuildReport() {
+    if (drawn_) {
+        biorhythm_.Draw(*drawn_, birth_, view_);
+    }
     return biorhythm_.BuildReport(DaysSinceBirth(birth_, view_));
 }
 

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -52,15 +53,17 @@ class BiorhythmPage {
     void RemovePerson(std::size_t index);
     [[nodiscard]] const Persons& People() const { return persons_; }
 
-    BiorhythmGraph Draw(const Rect& rectangle) { return biorhythm_.Draw(rectangle, birth_, view_); }
-    /// The report with the percentages of the last Draw.
-    [[nodiscard]] std::u16string BuildReport() const;
+    BiorhythmGraph Draw(const Rect& rectangle);
+    /// The report on the present dates; its percentages are those of the graph in the rectangle of the last
+    /// Draw, which may still be to be painted anew, and 0 before the first.
+    [[nodiscard]] std::u16string BuildReport();
     [[nodiscard]] ImportantDates OpenImportantDates() const { return {birth_, view_, order_}; }
 
   private:
     void ShowCurrentPerson();
 
     Biorhythm biorhythm_;
+    std::optional<Rect> drawn_;
     Persons persons_;
     std::filesystem::path personsPath_;
     SolarDate birth_;

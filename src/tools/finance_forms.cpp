@@ -92,11 +92,11 @@ void LoanForm::SetPaymentComputed(bool compute) {
 }
 
 std::optional<LoanPlan> LoanForm::Calculate() {
-    const double amount = RoundBox(texts_[AMOUNT], 2);
-    const double rate = RoundBox(texts_[RATE], 4);
-    const double periods = RoundBox(texts_[PERIODS_PER_YEAR], 2);
-    const double payments = RoundBox(texts_[PAYMENTS], 2);
-    const double payment = RoundBox(texts_[PAYMENT], 2);
+    const double amount = RoundBox(texts_[AMOUNT], kMoneyDigits);
+    const double rate = RoundBox(texts_[RATE], kYearlyRateDigits);
+    const double periods = RoundBox(texts_[PERIODS_PER_YEAR], kCountDigits);
+    const double payments = RoundBox(texts_[PAYMENTS], kCountDigits);
+    const double payment = RoundBox(texts_[PAYMENT], kMoneyDigits);
     const bool isValid = amount > 0.0 && rate >= 0.0 && periods > 0.0 && payments > 0.0 &&
                          (payment >= 0.0 || payment == kPaymentWanted);
     if (!isValid) {
@@ -112,9 +112,9 @@ void MortgageForm::SetText(Field field, std::u16string_view text) {
 }
 
 std::optional<MortgagePlan> MortgageForm::Calculate() {
-    const double amount = RoundBox(texts_[AMOUNT], 2);
-    const double rate = RoundBox(texts_[RATE], 4);
-    const double years = RoundBox(texts_[YEARS], 2);
+    const double amount = RoundBox(texts_[AMOUNT], kMoneyDigits);
+    const double rate = RoundBox(texts_[RATE], kYearlyRateDigits);
+    const double years = RoundBox(texts_[YEARS], kCountDigits);
     if (!(amount > 0.0 && rate >= 0.0 && years > 0.0)) {
         return std::nullopt;
     }

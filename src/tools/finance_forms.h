@@ -104,6 +104,7 @@ class MortgageForm {
   public:
     enum Field : std::uint8_t { AMOUNT, RATE, YEARS };
     static constexpr std::size_t kFieldCount = 3;
+    static constexpr std::u16string_view kTitle = u"Mortgage calculator";
     static constexpr std::array<std::u16string_view, kFieldCount> kLabels = {
         u"Mortgage Amount ", u"Annual Interest Rate (%)", u"Length in Years"};
     static constexpr int kMostYears = 100;

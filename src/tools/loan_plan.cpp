@@ -29,18 +29,18 @@ double PaymentsNeeded(double amount, double i, double payment) {
 }  // namespace
 
 void LoanPlan::Compute(double amount, double rate, double periods, double count, double givenPayment) {
-    balance = RoundTo(amount, 2);
-    annualRate = RoundTo(rate, 4);
-    periodsPerYear = RoundTo(periods, 2);
-    payments = RoundTo(count, 2);
-    payment = RoundTo(givenPayment, 2);
-    const double i = RoundTo(annualRate / periodsPerYear * 0.01, 7);
+    balance = RoundTo(amount, kMoneyDigits);
+    annualRate = RoundTo(rate, kYearlyRateDigits);
+    periodsPerYear = RoundTo(periods, kCountDigits);
+    payments = RoundTo(count, kCountDigits);
+    payment = RoundTo(givenPayment, kMoneyDigits);
+    const double i = RoundTo(annualRate / periodsPerYear * 0.01, kPeriodRateDigits);
     if (payment == kPaymentWanted) {
-        payment = RoundTo(AnnuityPayment(balance, i, payments), 2);
+        payment = RoundTo(AnnuityPayment(balance, i, payments), kMoneyDigits);
     } else if (payment != 0.0) {
         payments = std::min(payments, PaymentsNeeded(balance, i, payment));
     }
-    ratePerPeriod = RoundTo(annualRate / periodsPerYear, 4);
+    ratePerPeriod = RoundTo(annualRate / periodsPerYear, kYearlyRateDigits);
     totalPayments = 0.0;
     totalInterest = 0.0;
     table.clear();
@@ -48,7 +48,7 @@ void LoanPlan::Compute(double amount, double rate, double periods, double count,
     double rest = balance;
     const double rows = std::min(std::trunc(payments), kMostLoanRows);
     for (double k = 1.0; k <= rows; k += 1.0) {
-        LoanRow row{RoundTo(k / periodsPerYear, 3), rest, RoundTo(rest * i, 2), 0.0};
+        LoanRow row{RoundTo(k / periodsPerYear, 3), rest, RoundTo(rest * i, kMoneyDigits), 0.0};
         totalInterest += row.interest;
         if (row.interest + rest <= payment) {
             row.principal = row.interest + rest;

@@ -18,10 +18,13 @@ std::u16string Widened(std::string_view text) {
 
 std::u16string FloatingText(double value, std::chars_format format, int precision) {
     std::array<char, kRoom> buffer;
-    const double unsignedZero = value + 0.0;
-    const auto end =
-        std::to_chars(buffer.data(), buffer.data() + buffer.size(), unsignedZero, format, precision);
-    return Widened({buffer.data(), end.ptr});
+    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, format, precision);
+    std::string_view text(buffer.data(), end.ptr);
+    // Zero has no sign, nor has what rounds to it.
+    if (text.starts_with('-') && text.find_first_not_of("-0.") == text.npos) {
+        text.remove_prefix(1);
+    }
+    return Widened(text);
 }
 
 /// The part of `text` that a number may stand in, in 8-bit characters.

@@ -9,7 +9,7 @@
 namespace quorix {
 
 std::u16string IntegerText(std::int64_t value);
-/// `value` with `decimals` digits behind the point.
+/// `value` with `decimals` digits behind the point; zero without a sign.
 std::u16string WideFixedText(double value, int decimals);
 /// `value` with up to `digits` significant digits, in exponent form where that is shorter.
 std::u16string GeneralText(double value, int digits);

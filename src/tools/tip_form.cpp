@@ -85,11 +85,14 @@ bool TipForm::Key(char16_t key) {
 }
 
 bool TipForm::Edit(char16_t key) {
+    const char16_t decimal = SignsOf(numberLocale_).decimal;
+    if (key == u',' && decimal == kDisplayComma) {
+        key = u'.';
+    }
     if (!IsDigit(key) && key != u'.' && key != kBackspaceKey) {
         return false;
     }
     const FieldLayout& layout = kFields[active_];
-    const char16_t decimal = SignsOf(numberLocale_).decimal;
     std::u16string text = WithoutGrouping(Number(active_), numberLocale_);
     if (key == kBackspaceKey) {
         if (!text.empty()) {

@@ -42,7 +42,8 @@ class TipForm {
     /// "Tip Amount  = 15$" and "Total/Person = 28.75$"; the labels alone while the values allow no result.
     [[nodiscard]] const std::array<std::u16string, 2>& ResultLines() const { return result_; }
 
-    /// A key for the active field: a digit, ".", Backspace (8), "C" or Escape (clear), Tab (next field).
+    /// A key for the active field: a digit, "." (also as the locale has it), Backspace (8), "C" or Escape
+    /// (clear), Tab (next field).
     /// False when it means nothing or the field is full.
     bool Key(char16_t key);
 

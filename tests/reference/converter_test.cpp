@@ -73,6 +73,7 @@ TEST_F(ConverterTest, KeysMakeTheActiveFieldACalculatorThatTheOtherFieldFollows)
         {"C12*3", "3 | 300"},
         {"C12*3+", "36 | 3¸600"},
         {"C12*3=", "36 | 3¸600"},
+        {"C12*3\r", "36 | 3¸600"},
         {"C3.=2", "32 | 3¸200"},
         {"C3.5=2", "3.52 | 352"},
         {"C1.50", "1.50 | 150"},
@@ -102,6 +103,7 @@ TEST_F(ConverterTest, KeysMakeTheActiveFieldACalculatorThatTheOtherFieldFollows)
             EXPECT_EQ(Both(), row.both) << row.keys;
         }
     }
+    EXPECT_FALSE(converter_->OnKey(','));
     EXPECT_FALSE(converter_->OnKey('x'));
     EXPECT_FALSE(converter_->OnKey(0x10030));
 }
@@ -129,8 +131,19 @@ TEST_F(ConverterTest, EuropeanSignsReadBackAsTheyAreShown) {
     converter_->OnFieldPressed(unitTo);
     Choose(HotSpot::from, 1);
     EXPECT_EQ(Value(unitFrom), "1.00000000e-09");
-    Keys("C12.5");
-    EXPECT_EQ(Both(), "12¸5 | 12¸5");
+    Keys("C12,5_");
+    EXPECT_EQ(Both(), "-12¸5 | -12¸5");
+    // What stands there keeps its value when the preference changes.
+    Keys("C1234.5");
+    converter_->SetMode(ConverterMode::constants);
+    Choose(HotSpot::from, 1);
+    rig_.locale = u"English (US)";
+    converter_->ExchangeDecimalSigns();
+    EXPECT_EQ(Label(constValue), "6.67e-11 m^3/(kg*s^2)");
+    converter_->SetMode(ConverterMode::units);
+    converter_->OnFieldPressed(unitFrom);
+    Keys("6");
+    EXPECT_EQ(Both(), "1¸234.56 | 1¸234.56");
 }
 
 TEST_F(ConverterTest, PressingAFieldGoesOnFromItsNumber) {
@@ -153,12 +166,15 @@ TEST_F(ConverterTest, AChosenUnitFollowsTheFixedSide) {
     Choose(HotSpot::to, 2);
     EXPECT_EQ(Both(), "2 | 6.56167979");
     EXPECT_EQ(Label(unitTo), "ft");
-    // The side that is typed into follows too, and typing goes on from what it shows.
+    // The side that is typed into follows too; signs work on what it shows, digits begin anew.
     Keys("\t3");
     Choose(HotSpot::to, 1);
     EXPECT_EQ(Both(), "0.9144 | 91.44");
-    Keys("5");
-    EXPECT_EQ(Value(unitTo), "91.445");
+    Keys("+1=");
+    EXPECT_EQ(Value(unitTo), "92.44");
+    Choose(HotSpot::to, 2);
+    Keys("10");
+    EXPECT_EQ(Both(), "3.048 | 10");
     Choose(HotSpot::group, 1);
     EXPECT_EQ(converter_->State().unitCategoryIndex, 1);
     EXPECT_EQ(Both(), " | ");
@@ -208,6 +224,13 @@ TEST_F(ConverterTest, EditedRatesAreKept) {
     EXPECT_EQ(text,
               "#Date: 30 Jun 2025\n\n#Begin:Currency:0\n\tUSD\tUSD\t!\n\tEuro\tEUR\t1.25000000000\t0\tUSD\n"
               "\tYen\tJPY\t2.00000000000\t0\tUSD\n#End");
+    // An update has put other rows in the place of those on show.
+    rig_.folder.Write("currency.dat", "#Date: x\nUSD USD !\nPound GBP 2 0 USD\nYen JPY 0.01 0 USD\n");
+    converter_->SetMode(ConverterMode::currency);
+    const std::u16string late[] = {u"1", u"9", u"50"};
+    ASSERT_TRUE(rates.Store(late, converter_->CurrencyFile()));
+    EXPECT_EQ(converter_->Table().Records()[1].factor, 2);
+    EXPECT_EQ(converter_->Table().Records()[2].factor, 0.02);
     // The rows of units never end up in the file of rates.
     converter_->SetMode(ConverterMode::units);
     CurrencyTable units(converter_->Table());

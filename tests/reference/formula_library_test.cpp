@@ -278,7 +278,6 @@ TEST(FormulaText, UnitsAndSymbolsReadPlainly) {
     EXPECT_EQ(PlainFormulaText("^o"), u"°");
     EXPECT_EQ(PlainFormulaText("\\mu m\\cdot K"), u"μm·K");
     EXPECT_EQ(PlainFormulaText("\\Delta l_{12}"), u"Δl12");
-    EXPECT_EQ(WideFormulaText("\xE9"), u"é");
 }
 
 }  // namespace

@@ -221,6 +221,14 @@ TEST(BiorhythmPage, FollowsThePersons) {
     EXPECT_EQ(again.People().Current(), -1);
     EXPECT_EQ(again.Name(), u"");
     EXPECT_EQ(again.Birth(), SolarDate(1999, 12, 31));
+    // A report does not wait for the graph to be painted with the new date.
+    again.Draw({0, 0, 290, 100});
+    again.SetView({2026, 12, 1});
+    const std::u16string report = again.BuildReport();
+    again.Draw({0, 0, 290, 100});
+    EXPECT_EQ(again.BuildReport(), report);
+    again.SetView({2026, 12, 4});
+    EXPECT_NE(again.BuildReport(), report);
 }
 
 }  // namespace

@@ -170,6 +170,9 @@ TEST(MortgageResult, HasTotalsBehindFullYears) {
     const auto year = MortgageRows(whole);
     ASSERT_EQ(year.size(), 13U);
     EXPECT_EQ(year[12], (ResultRow{u"1", u"Totals", u"100.00", u"0.00", u"0.00"}));
+    whole.Compute(120.12, 0, 1);
+    EXPECT_LT(whole.table.back().balance, 0);
+    EXPECT_EQ(MortgageRows(whole)[11][4], u"0.00");
     form.SetText(MortgageForm::AMOUNT, u"1e400");
     EXPECT_FALSE(form.Calculate().has_value());
 }

@@ -27,7 +27,7 @@ TEST(TipForm, SharesTheBill) {
         {kUs, u"3\t\t100", u"0$", u"33.3333333$"},
         {kUs, u"2\t10\t1000000", u"100" + comma + u"000$", u"550" + comma + u"000$"},
         {kUs, u"1\t100\t12345678912345", u"1.23456789e+13$", u"2.46913578e+13$"},
-        {u"European", u"2\t12.5\t1234.5", u"154" + comma + u"3125$", u"694" + comma + u"40625$"},
+        {u"European", u"2\t12,5\t1234.5", u"154" + comma + u"3125$", u"694" + comma + u"40625$"},
         {kUs, u"0\t15\t100", u"", u""},
         {kUs, u"\t15\t100", u"", u""},
         {kUs, u"4\t15\t0", u"", u""},

@@ -3,11 +3,12 @@
 #include <QGuiApplication>
 #include <QMimeData>
 
+#include "platform/qt/conversions.h"
+
 namespace quorix {
 
 void QtClipboard::PutText(std::u16string_view text) {
-    QGuiApplication::clipboard()->setText(
-        QString::fromUtf16(text.data(), static_cast<qsizetype>(text.size())), mode_);
+    QGuiApplication::clipboard()->setText(ToQString(text), mode_);
 }
 
 std::u16string QtClipboard::GetText() {

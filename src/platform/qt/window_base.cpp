@@ -8,6 +8,7 @@
 #include <cmath>
 #include <utility>
 
+#include "platform/qt/conversions.h"
 #include "platform/qt/pictures.h"
 
 namespace quorix {
@@ -29,10 +30,6 @@ Rect United(const Rect& a, const Rect& b) {
 Rect Common(const Rect& a, const Rect& b) {
     return {std::max(a.left, b.left), std::max(a.top, b.top), std::min(a.right, b.right),
             std::min(a.bottom, b.bottom)};
-}
-
-QRect ToQRect(const Rect& rect) {
-    return {rect.left, rect.top, rect.Width(), rect.Height()};
 }
 
 int Zoomed(int pixels, double zoom) {
