@@ -1,6 +1,7 @@
 #include "engine/keyword_table.h"
 #include "engine/number_grammar.h"
 #include "engine/postfix_compiler.h"
+#include "engine/radix_digits.h"
 #include "engine/tokeniser.h"
 #include "support/engine_fixture.h"
 
@@ -61,6 +62,7 @@ TEST_F(CompilerTest, OtherRadicesBecomeSignedDecimals) {
     expect(2, "101+11 -> 5 + 3; 102 -> refused; e -> refused");
     expect(8, "17 and 7 -> 15 and 7; 8 -> refused");
     expect(3, "1+e 2 -> 1+E 2");  // An unknown radix leaves the text unchecked.
+    EXPECT_EQ(ParseUnsignedInRadix(u"55", 7), 0U);
 }
 
 TEST_F(CompilerTest, TheBoundNameIsAcceptedWithoutRegardToCase) {

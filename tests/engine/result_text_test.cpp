@@ -34,7 +34,7 @@ TEST_F(ResultTextTest, DecimalFormats) {
     ExpectFormat({.digits = 0}, "3.14159 -> 3");
     ExpectFormat({.formatId = FORMAT_SCI, .digits = 2}, "0 -> 0.00 E0");
     ExpectFormat({.formatId = FORMAT_FIX, .fixedDecimals = 2}, "2.999 -> 3.00; -0.004 -> 0.00");
-    ExpectFormat({.formatId = FORMAT_FIX, .fixedDecimals = 0}, "2.5 -> 3; -0.4 -> 0");
+    ExpectFormat({.formatId = FORMAT_FIX, .fixedDecimals = 0}, "2.5 -> 3; -0.4 -> 0; 5 -> 5");
     ExpectFormat({.formatId = FORMAT_FIX, .fixedDecimals = 1}, "-9.96 -> -10.0");
     ExpectFormat({.formatId = FORMAT_FIX, .digits = 2, .fixedDecimals = 2}, "1e13 -> 1.00 E13");
     // While it is typed a number keeps the decimals that were typed.

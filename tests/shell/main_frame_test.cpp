@@ -86,6 +86,7 @@ TEST(MainFrame, WordsAndMatricesReachTheDisplay) {
     FrameRig rig;
     rig.TypeText(u"2pi");
     rig.TapPad("+1=");
+    rig.frame.PopupChosen(POPUP_FUNCTIONS, 99);  // no such row
     EXPECT_EQ(rig.Row(), "2pi+1") << "a tap ends a whole word";
     rig.frame.SwitchCategory(CATEGORY_MATRIX);
     rig.TapPad("C");

@@ -73,6 +73,10 @@ TEST(SolarDate, CountsDaysAsSteppingDoes) {
         ASSERT_EQ(sum, day);
         sum.SubDays(n);
         ASSERT_EQ(sum, start);
+        SolarDate back = day;
+        back.NextDay();
+        back.PreviousDay();
+        ASSERT_EQ(back, day);
     }
     SolarDate wrong(1, 1, 1);
     wrong.month = 14;
