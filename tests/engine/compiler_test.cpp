@@ -48,30 +48,21 @@ TEST_F(CompilerTest, DecimalTextIsCutIntoTokens) {
 }
 
 TEST_F(CompilerTest, OtherRadicesBecomeSignedDecimals) {
-    const struct {
-        int radix;
-        std::string_view text, tokens;
-    } rows[] = {
-        {16, "A+B", "10 + 11"},
-        {16, "a+0f", "10 + 15"},
-        {16, "FFFFFFFF", "-1"},
-        {16, "7fffffff-80000000", "2147483647 - -2147483648"},
-        {16, "123456789ABC", "-1"},        // Saturates at the largest word.
-        {16, "ADD", "2781"},               // Digits come before words...
-        {16, "ABS(ABC)", "abs ( 2748 )"},  // ...and keywords have a letter that is none.
-        {16, "[VA]", "va"},
-        {16, "1.5", "1 5"},  // The point is skipped.
-        {16, "1,;~2", "1 2"},
-        {16, "G", "refused"},
-        {16, "pi", "refused"},
-        {2, "101+11", "5 + 3"},
-        {2, "102", "refused"},
-        {2, "e", "refused"},
-        {8, "17 and 7", "15 and 7"},
-        {8, "8", "refused"},
-        {3, "1+e 2", "1+E 2"}  // An unknown radix leaves the text unchecked.
+    const auto expect = [](int radix, std::string_view table) {
+        for (const auto& [text, tokens] : Rows(table)) EXPECT_EQ(Tokens(text, radix), tokens) << text;
     };
-    for (const auto& row : rows) EXPECT_EQ(Tokens(row.text, row.radix), row.tokens) << row.text;
+    expect(16,
+           "A+B -> 10 + 11; a+0f -> 10 + 15; FFFFFFFF -> -1; 7fffffff-80000000 -> 2147483647 - -2147483648; "
+           "123456789ABC -> -1; "        // Saturates at the largest word.
+           "ADD -> 2781; "               // Digits come before words...
+           "ABS(ABC) -> abs ( 2748 ); "  // ...and keywords have a letter that is none.
+           "[VA] -> va; "
+           "1.5 -> 1 5; "  // The point is skipped.
+           "1,;~2 -> 1 2; G -> refused; pi -> refused");
+    expect(2, "101+11 -> 5 + 3; 102 -> refused; e -> refused");
+    expect(8, "17 and 7 -> 15 and 7; 8 -> refused");
+    expect(3, "1+e 2 -> 1+E 2");  // An unknown radix leaves the text unchecked.
+    EXPECT_EQ(ParseUnsignedInRadix(u"55", 7), 0U);
 }
 
 TEST_F(CompilerTest, TheBoundNameIsAcceptedWithoutRegardToCase) {
@@ -95,21 +86,6 @@ TEST_F(CompilerTest, PostfixFollowsPrecedence) {
             "5!% -> 5 ! % ; 3 4 -> 3 4 ; 2*-3 -> not compiled; 2 - -3 -> not compiled; 2+!5 -> not compiled; "
             "(2+%)5 -> not compiled; )5(7 -> not compiled; 5)( -> refused"))
         EXPECT_EQ(Postfix(text), postfix) << text;
-}
-
-TEST_F(CompilerTest, DigitStringsInARadix) {
-    const struct {
-        int radix;
-        std::u16string_view digits;
-        std::uint32_t value;
-    } rows[] = {{2, u"101", 5},
-                {8, u"777", 511},
-                {10, u"4294967295", 4294967295U},
-                {16, u"FF", 255},
-                {16, u"1FFFFFFFF", 4294967295U},
-                {7, u"55", 0},
-                {16, u"", 0}};
-    for (const auto& row : rows) EXPECT_EQ(ParseUnsignedInRadix(row.digits, row.radix), row.value);
 }
 
 TEST_F(CompilerTest, NumberGrammarKnowsNoWordsAndNoHexadecimal) {

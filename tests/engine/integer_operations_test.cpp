@@ -1,6 +1,7 @@
 #include "engine/integer_operations.h"
 
 #include <cmath>
+#include <cstdlib>
 #include <limits>
 #include <random>
 
@@ -11,108 +12,57 @@ namespace {
 
 constexpr double kNotANumber = std::numeric_limits<double>::quiet_NaN();
 
-struct BinaryCase {
-    BinaryIntegerOperation operation;
-    double left, right;
-    std::int32_t wordSize;
-    double value;
-    std::int32_t error = 0;
-};
-
-TEST(IntegerOperationsTest, BinaryOperations) {
-    const BinaryCase rows[] = {{IntegerAnd, 5, 3, 8, 1},
-                               {IntegerAnd, -1, 1000, 8, 1000},  // The word size is not looked at.
-                               {IntegerOr, -256, 3, 8, -253},
-                               {IntegerXor, -1, 5, 16, -6},
-                               {IntegerAnd, 5.5, 3, 8, 0, -53},
-                               {IntegerAnd, 3, 5.5, 8, 0, -53},
-                               {IntegerOr, 2147483647, -2147483648.0, 32, -1},
-                               {IntegerOr, 2147483648.0, 0, 32, 0, -53},
-                               {IntegerXor, 0, -2147483649.0, 32, 0, -53},
-                               {IntegerXor, kNotANumber, 0, 32, 0, -53},
-                               {IntegerMod, 7, 3, 8, 1},
-                               {IntegerMod, -7, 3, 8, 1},
-                               {IntegerMod, 7, -3, 8, 1},
-                               {IntegerMod, -2147483648.0, 1000, 8, 648},
-                               {IntegerMod, 7, 0, 8, 0, -5},
-                               {IntegerMod, 7.5, 0, 8, 0, -53},
-                               {IntegerNand, 12, 10, 8, 247},
-                               {IntegerNand, 12, 10, 16, 65527},
-                               {IntegerNand, 12, 10, 32, 4294967287.0},
-                               {IntegerNand, 12, 10, 24, 4294967287.0},
-                               {IntegerNand, -1, -1, 32, 0},
-                               {IntegerNand, 4294967296.0, 1, 8, 255},  // Of 64 bits the low 32 are taken.
-                               {IntegerNor, 12, 10, 8, 241},
-                               {IntegerNor, 0, 0, 32, 4294967295.0},
-                               {IntegerNor, 9223372036854775808.0, 0, 32, 0, -53},
-                               {IntegerNor, -9223372036854775808.0, 0, 32, 4294967295.0},
-                               {IntegerNor, 0.5, 0, 32, 0, -53},
-                               {IntegerShiftLeft, 1, 40, 32, 0},
-                               {IntegerShiftLeft, 1, 31, 32, 2147483648.0},
-                               {IntegerShiftLeft, 1, 32, 32, 0},
-                               {IntegerShiftLeft, 1, 9, 8, 0},
-                               {IntegerShiftLeft, 1, 9, 16, 512},
-                               {IntegerShiftLeft, 129, 1, 8, 2},
-                               {IntegerShiftLeft, 1, -1, 8, 0},
-                               {IntegerShiftLeft, 8, -1, 8, 4},
-                               {IntegerShiftLeft, 300, 0, 8, 44},
-                               {IntegerShiftLeft, 3, 257, 8, 6},  // The low byte of the count is 1.
-                               {IntegerShiftLeft, 3, 255, 8, 0},
-                               {IntegerShiftLeft, 8, -257, 8, 4},
-                               {IntegerShiftLeft, 8, -9223372036854775808.0, 8, 8},
-                               {IntegerShiftLeft, 3, 1, 12, 0},
-                               {IntegerShiftLeft, 3.5, 1, 8, 0, -53},
-                               {IntegerShiftLeft, 3, 0.5, 12, 0, -53},
-                               {IntegerShiftRight, 8, 1, 8, 4},
-                               {IntegerShiftRight, 8, -1, 8, 16},
-                               {IntegerShiftRight, 256, 1, 8, 128},  // Cut to the word behind the shift.
-                               {IntegerShiftRight, -1, 31, 32, 1},
-                               {IntegerShiftRight, -1, 32, 32, 0},
-                               {IntegerShiftRight, 3, 0, 8, 3},
-                               {IntegerShiftRight, 3, 1, 64, 0},
-                               {IntegerRotateLeft, 129, 1, 8, 3},
-                               {IntegerRotateLeft, 129, 8, 8, 129},
-                               {IntegerRotateLeft, 129, -1, 8, 192},
-                               {IntegerRotateLeft, 511, 0, 8, 255},
-                               {IntegerRotateLeft, 1, 9007199254740992.0, 8, 1},
-                               {IntegerRotateLeft, 32769, 1, 16, 3},
-                               {IntegerRotateLeft, 2147483649.0, 1, 32, 3},
-                               {IntegerRotateLeft, 1, 1, 0, 0},
-                               {IntegerRotateRight, 1, 1, 8, 128},
-                               {IntegerRotateRight, 1, 1, 16, 32768},
-                               {IntegerRotateRight, 1, 33, 32, 2147483648.0},
-                               {IntegerRotateRight, 1, -1, 8, 2},
-                               {IntegerRotateRight, 511, 0, 8, 255},
-                               {IntegerRotateRight, 1, -9223372036854775808.0, 8, 1},
-                               {IntegerRotateRight, 1.5, 1, 8, 0, -53}};
-    for (std::size_t i = 0; i < std::size(rows); ++i) {
-        const BinaryCase& row = rows[i];
-        const IntegerOutcome outcome = row.operation(row.left, row.right, row.wordSize);
-        EXPECT_EQ(outcome.value, row.value) << "row " << i;
-        EXPECT_EQ(outcome.error, row.error) << "row " << i;
+/// Rows of "left right wordSize -> value".
+void ExpectAll(BinaryIntegerOperation operation, std::string_view table) {
+    for (const auto& [operands, expected] : Rows(table)) {
+        char* end = nullptr;
+        const double left = std::strtod(operands.c_str(), &end);
+        const double right = std::strtod(end, &end);
+        const IntegerOutcome outcome =
+            operation(left, right, static_cast<std::int32_t>(std::strtol(end, nullptr, 10)));
+        const IntegerOutcome wanted = expected.starts_with("error ")
+                                          ? IntegerOutcome{0, std::atoi(expected.c_str() + 6)}
+                                          : IntegerOutcome{std::strtod(expected.c_str(), nullptr)};
+        EXPECT_EQ(outcome, wanted) << operands;
     }
 }
 
+// "and", "or", "xor" and "mod" do not look at the word size; "nand" and "nor" take the low 32 bits of 64;
+// shifts take the low byte of their count and cut to the word behind the shift.
+TEST(IntegerOperationsTest, BinaryOperations) {
+    ExpectAll(IntegerAnd, "5 3 8 -> 1; -1 1000 8 -> 1000; 5.5 3 8 -> error -53");
+    ExpectAll(IntegerXor, "-1 5 16 -> -6; nan 0 32 -> error -53");
+    ExpectAll(IntegerOr, "2147483647 -2147483648 32 -> -1; 2147483648 0 32 -> error -53");
+    ExpectAll(IntegerMod, "-7 3 8 -> 1; 7 -3 8 -> 1; 7 0 8 -> error -5; 7.5 0 8 -> error -53");
+    ExpectAll(IntegerNand,
+              "12 10 8 -> 247; 12 10 16 -> 65527; 12 10 32 -> 4294967287; 12 10 24 -> 4294967287; "
+              "4294967296 1 8 -> 255");
+    ExpectAll(IntegerNor,
+              "0 0 32 -> 4294967295; 9223372036854775808 0 32 -> error -53; "
+              "-9223372036854775808 0 32 -> 4294967295; 0.5 0 32 -> error -53");
+    ExpectAll(IntegerShiftLeft,
+              "1 40 32 -> 0; 1 32 32 -> 0; 1 9 16 -> 512; 129 1 8 -> 2; 8 -1 8 -> 4; 300 0 8 -> 44; "
+              "3 257 8 -> 6; 3 255 8 -> 0; 8 -257 8 -> 4; 8 -9223372036854775808 8 -> 8; 3 1 12 -> 0; "
+              "3.5 1 8 -> error -53; 3 0.5 12 -> error -53");
+    ExpectAll(IntegerShiftRight, "8 -1 8 -> 16; 256 1 8 -> 128; -1 31 32 -> 1; -1 32 32 -> 0; 3 1 64 -> 0");
+    ExpectAll(IntegerRotateLeft, "129 8 8 -> 129; 511 0 8 -> 255; 1 9007199254740992 8 -> 1; 1 1 0 -> 0");
+    ExpectAll(IntegerRotateRight, "511 0 8 -> 255; 1 -9223372036854775808 8 -> 1; 1.5 1 8 -> error -53");
+}
+
 TEST(IntegerOperationsTest, ComplementsTakeAnyNumber) {
-    const struct {
-        double operand;
-        std::int32_t wordSize;
-        double complement, negation;
-    } rows[] = {{0, 8, 255, 0},
-                {0, 16, 65535, 0},
-                {0, 32, 4294967295.0, 0},
-                {1, 8, 254, 255},
-                {5.9, 8, 250, 251},
-                {-5.9, 8, 4, 5},
-                {4294967297.0, 16, 65534, 65535},
-                {1e300, 8, 255, 0},
-                {-HUGE_VAL, 32, 4294967295.0, 0},
-                {kNotANumber, 16, 65535, 0},
-                {1, 12, 4294967294.0, 4294967295.0}};
-    for (const auto& row : rows) {
-        EXPECT_EQ(IntegerNot(row.operand, row.wordSize), IntegerOutcome{row.complement}) << row.operand;
-        EXPECT_EQ(IntegerNegate(row.operand, row.wordSize), IntegerOutcome{row.negation}) << row.operand;
-    }
+    const auto expectAll = [](IntegerOutcome (*operation)(double, std::int32_t), std::int32_t wordSize,
+                              std::initializer_list<std::pair<double, double>> rows) {
+        for (const auto& [operand, value] : rows) {
+            EXPECT_EQ(operation(operand, wordSize), IntegerOutcome{value}) << operand;
+        }
+    };
+    expectAll(IntegerNot, 8, {{0, 255}, {1, 254}, {5.9, 250}, {-5.9, 4}, {1e300, 255}});
+    expectAll(IntegerNot, 16, {{0, 65535}, {4294967297.0, 65534}, {kNotANumber, 65535}});
+    expectAll(IntegerNot, 32, {{0, 4294967295.0}, {-HUGE_VAL, 4294967295.0}});
+    expectAll(IntegerNot, 12, {{1, 4294967294.0}});
+    expectAll(IntegerNegate, 8, {{0, 0}, {1, 255}, {5.9, 251}, {-5.9, 5}, {1e300, 0}});
+    expectAll(IntegerNegate, 16, {{4294967297.0, 65535}, {kNotANumber, 0}});
+    expectAll(IntegerNegate, 12, {{1, 4294967295.0}});
 }
 
 // One place at a time, as the rotations are told.

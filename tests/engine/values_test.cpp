@@ -49,15 +49,5 @@ TEST_F(ValuesTest, StoringAValueReplacesWhatWasThere) {
     EXPECT_TRUE(Variable(5).number.re.IsZero());
 }
 
-TEST_F(ValuesTest, ClearingTheErrorClearsTheNumericFlagToo) {
-    QReal value;
-    asctoq("1e9000", value);
-    calcContext().calcError = -3;
-    EXPECT_NE(NumericErrorFlag(), NUMERIC_OK);
-    ClearCalcError();
-    EXPECT_EQ(calcContext().calcError, 0);
-    EXPECT_EQ(NumericErrorFlag(), NUMERIC_OK);
-}
-
 }  // namespace
 }  // namespace quorix

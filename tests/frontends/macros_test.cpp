@@ -8,6 +8,7 @@
 #include "platform/files.h"
 #include "platform/utf8.h"
 #include "support/temporary_folder.h"
+#include "support/text_rows.h"
 
 namespace quorix {
 namespace {
@@ -35,23 +36,15 @@ TEST(Macros, CallsBecomeTheirBodies) {
     macros.Store(Make(u"c", u"", 0, u"299792458"));
     macros.Store(Make(u"twice", u"α", 1, u"f(α)×2"));
     macros.Store(Make(u"odd", u"a,b", 2, u"a+b"));
-    const std::pair<const char16_t*, const char*> kCases[] = {
-        {u"2f(3)+1", "2((3)²+1)+1"},
-        {u"f(f(2))", "((((2)²+1))²+1)"},
-        {u"area( 2 , f(1))", "((2)×(((1)²+1)))"},
-        {u"area((1,2),3)×c()", "(((1,2))×(3))×(299792458)"},
-        {u"twice(5)", "(f((5))×2)"},      // a body is not searched again
-        {u"F(3)+fib(5)", "F(3)+fib(5)"},  // names mind their case; "f" has no parenthesis there
-        {u"odd(b,7)", "(((7))+(7))"},     // parameters run over what earlier ones have put in
-        {u"area(1,2,3)", "((1)×(2))"},    // surplus arguments are ignored
-        {u"area(1)", "-52"},
-        {u"area(,2)", "-52"},
-        {u"f()", "-52"},
-        {u"f(2", "-52"},
-        {u"f(area(1))", "-52"},
-    };
-    for (const auto& [line, expected] : kCases) {
-        EXPECT_EQ(Expanded(macros, line), expected) << ToUtf8(line);
+    for (const auto& [line, expanded] :
+         Rows("2f(3)+1 -> 2((3)²+1)+1; f(f(2)) -> ((((2)²+1))²+1); area( 2 , f(1)) -> ((2)×(((1)²+1))); "
+              "area((1,2),3)×c() -> (((1,2))×(3))×(299792458); "
+              "twice(5) -> (f((5))×2); "      // a body is not searched again
+              "F(3)+fib(5) -> F(3)+fib(5); "  // names mind their case; "f" has no parenthesis there
+              "odd(b,7) -> (((7))+(7)); "     // parameters run over what earlier ones have put in
+              "area(1,2,3) -> ((1)×(2)); "    // surplus arguments are ignored
+              "area(1) -> -52; area(,2) -> -52; f() -> -52; f(2 -> -52; f(area(1)) -> -52")) {
+        EXPECT_EQ(Expanded(macros, FromUtf8(line)), expanded) << line;
     }
     // Growth by nesting ends.
     macros.Store(Make(u"g", u"α", 1, u"α+α"));

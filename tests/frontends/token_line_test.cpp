@@ -9,27 +9,6 @@
 namespace quorix {
 namespace {
 
-TEST(TokenLine, OneDeleteRemovesAWholeToken) {
-    TokenLine line;
-    line.InsertToken(0, u"2");
-    line.InsertToken(1, u"asinh(");
-    line.InsertToken(2, u"7");
-    EXPECT_EQ(line.Text(), u"2asinh(7");
-    EXPECT_EQ(line.TokenLengths(), u"161");
-    line.MoveLeft(2);
-    line.DeleteToken(line.Cursor());
-    EXPECT_EQ(line.Text(), u"27");
-    EXPECT_EQ(line.Cursor(), 1);
-    // Behind the last token the last one goes.
-    line.MoveRight(5);
-    line.DeleteToken(line.Cursor());
-    EXPECT_EQ(line.Text(), u"2");
-    EXPECT_EQ(line.Cursor(), 1);
-    line.DeleteToken(line.Cursor());
-    line.DeleteToken(line.Cursor());
-    EXPECT_TRUE(line.IsEmpty());
-}
-
 TEST(TokenLine, InsertsAtTheCursorBetweenTokens) {
     TokenLine line;
     line.InsertToken(0, u"sin(");
@@ -61,27 +40,6 @@ TEST(TokenLine, AnOverlongLineStopsGrowing) {
     line.InsertToken(line.Cursor(), u"2");
     EXPECT_EQ(line.Text().size(), kLongestLine);
     EXPECT_EQ(line.TokenLengths().size(), kLongestLine);
-}
-
-TEST(TokenLine, TheViewFollowsTheCursor) {
-    TokenLine line;
-    const std::vector<int> widths(30, 10);
-    for (int i = 0; i < 30; ++i) {
-        line.InsertToken(line.Cursor(), u"1");
-        line.UpdateView(std::vector<int>(static_cast<std::size_t>(line.TokenCount()), 10), 100);
-    }
-    EXPECT_EQ(line.FirstVisible(), 20);
-    EXPECT_EQ(line.LastVisible(), 29);
-    line.MoveLeft(15);
-    line.UpdateView(widths, 100);
-    EXPECT_EQ(line.FirstVisible(), 15);
-    EXPECT_EQ(line.LastVisible(), 24);
-    line.MoveRight(9);
-    line.UpdateView(widths, 100);
-    EXPECT_EQ(line.FirstVisible(), 15);
-    line.MoveRight(1);
-    line.UpdateView(widths, 100);
-    EXPECT_EQ(line.FirstVisible(), 16);
 }
 
 TEST(TokenLine, CursorAndViewStayInRangeUnderAnyEdits) {

@@ -5,6 +5,7 @@
 #include "frontends/panel_keys.h"
 #include "frontends/string_key_tokens.h"
 #include "support/calculator_rig.h"
+#include "support/text_rows.h"
 
 namespace quorix {
 namespace {
@@ -40,33 +41,21 @@ TEST(TypeAhead, EveryNameCanBeTypedAndComesAsItsKey) {
 }
 
 TEST(TypeAhead, TypedExpressions) {
-    struct Case {
-        std::u16string_view typed;
-        const char* line;
-        bool open = false;
-    };
-    const Case cases[] = {
-        {u"si\r", "sin("},
-        {u"sin(30)+2", "sin(30)+2"},
-        {u"3*pi+x", "3×pi+x"},
-        {u"2i+1", "2i+1"},
-        {u"e^2", "e^2"},
-        {u"1e5", "1exp5"},
-        {u"7 mod 3", "7 mod 3"},
-        {u"log10(5", "log(5"},
-        {u"sqrt(9", "2√(9"},
-        {u"si+", "", true},  // no half word is lost
-        {u"siq2", "", true},
-        {u"1x", "1x"},
-        {u"q", ""},
-    };
-    for (const Case& c : cases) {
+    const auto typed = [](std::string_view text, bool open) {
         CalculatorRig rig;
         TypeAhead list(*rig.display);
-        Type(rig, list, c.typed);
-        EXPECT_EQ(rig.Row(), c.line) << ToUtf8(c.typed);
-        EXPECT_EQ(list.IsOpen(), c.open) << ToUtf8(c.typed);
+        Type(rig, list, FromUtf8(text));
+        EXPECT_EQ(list.IsOpen(), open) << text;
+        return rig.Row();
+    };
+    for (const auto& [text, line] :
+         Rows("sin(30)+2 -> sin(30)+2; 3*pi+x -> 3×pi+x; 2i+1 -> 2i+1; e^2 -> e^2; 1e5 -> 1exp5; "
+              "7 mod 3 -> 7 mod 3; log10(5 -> log(5; sqrt(9 -> 2√(9; 1x -> 1x; q -> ")) {
+        EXPECT_EQ(typed(text, false), line) << text;
     }
+    // No half word is lost.
+    EXPECT_EQ(typed("si+", true), "");
+    EXPECT_EQ(typed("siq2", true), "");
 }
 
 TEST(TypeAhead, ListAndKeys) {

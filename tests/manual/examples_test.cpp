@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <charconv>
 #include <sstream>
 
 #include "console/console_session.h"
@@ -53,32 +52,21 @@ std::vector<std::string> Split(const std::string& text, char separator) {
     return parts;
 }
 
-std::vector<double> Numbers(const std::string& text) {
-    std::istringstream stream(text);
-    std::vector<double> numbers;
-    for (double number = 0; stream >> number;) {
-        numbers.push_back(number);
-    }
-    return numbers;
+/// A line of the console calculator puts a list or a matrix where the keys find it.
+void Assign(const std::string& line) {
+    std::string answer;
+    EXPECT_TRUE(ConsoleSession({}).Evaluate(line, answer)) << line << ": " << answer;
 }
 
-/// data-list="1 2 4": what the statistics keys read.
-void SetList(const std::string& text) {
-    const std::vector<double> values = Numbers(text);
-    SetVariableMatrix(SLOT_LIST, static_cast<std::uint16_t>(values.size()), 1, values);
-}
-
-/// data-matrix="VA=1 2;3 4".
-void SetMatrix(const std::string& text) {
-    const std::size_t equals = text.find('=');
-    const std::vector<std::string> rows = Split(text.substr(equals + 1), ';');
-    std::vector<double> values;
-    for (const std::string& row : rows) {
-        const std::vector<double> numbers = Numbers(row);
-        values.insert(values.end(), numbers.begin(), numbers.end());
+/// data-list="1 2 4", data-matrix="VA=1 2;3 4".
+void SetVariables(const ManualExample& example) {
+    if (const std::string list = example.Setting("list"); !list.empty()) {
+        Assign("LIST=" + list);
     }
-    SetVariableMatrix(FindVariable(FromUtf8(text.substr(0, equals))), static_cast<std::uint16_t>(rows.size()),
-                      static_cast<std::uint16_t>(values.size() / rows.size()), values);
+    if (const std::string matrix = example.Setting("matrix"); !matrix.empty()) {
+        const std::size_t equals = matrix.find('=');
+        Assign('[' + matrix.substr(0, equals) + "]=[" + matrix.substr(equals + 1) + ']');
+    }
 }
 
 /// data-macro="name|parameters|expression".
@@ -105,16 +93,11 @@ void Prepare(FrameRig& rig, const ManualExample& example) {
         static_cast<std::uint32_t>(std::stoi(example.Setting("fraction", "0")));
     rig.frame.ApplyPreferences(settings);
     rig.frame.SwitchCategory(std::stoi(example.Setting("category", "0")));
-    if (const std::string list = example.Setting("list"); !list.empty()) {
-        SetList(list);
-    }
-    if (const std::string matrix = example.Setting("matrix"); !matrix.empty()) {
-        SetMatrix(matrix);
-    }
 }
 
 void CheckOnTheCalculator(const ManualExample& example) {
     ClearAllVariables();
+    SetVariables(example);
     const TemporaryFolder folder;
     if (const std::string macro = example.Setting("macro"); !macro.empty()) {
         WriteMacro(macro, folder.Path());
@@ -160,8 +143,7 @@ TEST(ManualExamples, ComputeWhatThePageSays) {
 }
 
 TEST(ManualExamples, AWrongResultOrKeyIsFound) {
-    const TemporaryFolder folder;
-    FrameRig rig(folder.Path());
+    FrameRig rig;
     EXPECT_EQ(PressScript(rig, "1 ÷ 8 ="), "");
     EXPECT_EQ(Shown(rig.Result()), "0.125");
     EXPECT_NE(PressScript(rig, "asin"), "") << "an orange word needs SHIFT or holding";

@@ -1,9 +1,9 @@
 #include "manual/html_reader.h"
 
 #include <algorithm>
-#include <charconv>
-#include <cstdint>
+#include <regex>
 #include <set>
+#include <utility>
 
 #include "platform/utf8.h"
 
@@ -13,54 +13,27 @@ namespace {
 
 constexpr std::string_view kBlanks = " \t\r\n";
 
-/// The entities that the manual may use; every other sign stands as itself.
-const std::map<std::string_view, std::string_view> kEntities = {
-    {"amp", "&"}, {"lt", "<"}, {"gt", ">"}, {"quot", "\""}, {"nbsp", "\u00A0"}};
+/// The entities that the manual may use, the one that others could be made of last; every other sign stands
+/// as itself.
+constexpr std::pair<std::string_view, std::string_view> kEntities[] = {
+    {"&lt;", "<"}, {"&gt;", ">"}, {"&quot;", "\""}, {"&nbsp;", "\u00A0"}, {"&amp;", "&"}};
 
 const std::set<std::string_view> kEmptyElements = {"br", "hr", "img", "meta", "link"};
 
-std::string Resolve(std::string_view text) {
-    std::string resolved;
-    while (!text.empty()) {
-        const std::size_t end = text.front() == '&' ? text.find(';') : text.npos;
-        if (end == text.npos) {
-            resolved += text.front();
-            text.remove_prefix(1);
-            continue;
+std::string Resolve(std::string text) {
+    for (const auto& [name, sign] : kEntities) {
+        for (std::size_t at = 0; (at = text.find(name, at)) != text.npos; at += sign.size()) {
+            text.replace(at, name.size(), sign);
         }
-        const std::string_view name = text.substr(1, end - 1);
-        if (const auto entity = kEntities.find(name); entity != kEntities.end()) {
-            resolved += entity->second;
-        } else {
-            resolved += text.substr(0, end + 1);
-        }
-        text.remove_prefix(end + 1);
     }
-    return resolved;
-}
-
-std::string LowerCase(std::string_view text) {
-    std::string lower(text);
-    std::ranges::transform(lower, lower.begin(), [](char c) {
-        return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-    });
-    return lower;
+    return text;
 }
 
 /// name="value" or name alone.
-void ReadAttributes(std::string_view text, HtmlPiece& piece) {
-    for (std::size_t at = text.find_first_not_of(kBlanks); at != text.npos;
-         at = text.find_first_not_of(kBlanks, at)) {
-        const std::size_t nameEnd = std::min(text.find_first_of(" \t\r\n=", at), text.size());
-        const std::string name = LowerCase(text.substr(at, nameEnd - at));
-        at = nameEnd;
-        std::string_view value;
-        if (at + 1 < text.size() && text[at] == '=' && text[at + 1] == '"') {
-            const std::size_t valueEnd = std::min(text.find('"', at + 2), text.size());
-            value = text.substr(at + 2, valueEnd - at - 2);
-            at = valueEnd + 1;
-        }
-        piece.attributes.emplace(name, Resolve(value));
+void ReadAttributes(const std::string& text, HtmlPiece& piece) {
+    static const std::regex pattern("([^\\s=]+)(=\"([^\"]*)\")?");
+    for (std::sregex_iterator at(text.begin(), text.end(), pattern), end; at != end; ++at) {
+        piece.attributes.emplace(at->str(1), Resolve(at->str(3)));
     }
 }
 
@@ -72,8 +45,8 @@ HtmlPiece ReadTag(std::string_view tag) {
         tag.remove_prefix(1);
     }
     const std::size_t nameEnd = std::min(tag.find_first_of(kBlanks), tag.size());
-    piece.content = LowerCase(tag.substr(0, nameEnd));
-    ReadAttributes(tag.substr(nameEnd), piece);
+    piece.content = std::string(tag.substr(0, nameEnd));
+    ReadAttributes(std::string(tag.substr(nameEnd)), piece);
     return piece;
 }
 
@@ -93,7 +66,7 @@ std::vector<HtmlPiece> ReadHtml(std::string_view page) {
             page.remove_prefix(std::min(end + 1, page.size()));
         } else {
             const std::size_t end = std::min(page.find('<'), page.size());
-            pieces.push_back({HtmlPiece::Kind::text, Resolve(page.substr(0, end)), {}});
+            pieces.push_back({HtmlPiece::Kind::text, Resolve(std::string(page.substr(0, end))), {}});
             page.remove_prefix(end);
         }
     }

@@ -13,7 +13,7 @@ namespace quorix::testing {
 struct HtmlPiece {
     enum class Kind { open, close, text };
     Kind kind = Kind::text;
-    /// Name of the tag in lower case, or the text with its entities resolved and its white space kept.
+    /// Name of the tag, or the text with its entities resolved and its white space kept.
     std::string content;
     std::map<std::string, std::string> attributes;
 

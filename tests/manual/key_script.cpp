@@ -39,20 +39,21 @@ constexpr std::pair<std::string_view, HardKey> kNamedKeys[] = {{"Left", HardKey:
                                                                {"Down", HardKey::down},
                                                                {"Delete", HardKey::remove}};
 
+/// The value beside a key of a table, or null.
+template <class Key, class Value, std::size_t count>
+const Value* LookUp(const std::pair<Key, Value> (&table)[count], const Key& key) {
+    const auto* const row = std::ranges::find(table, key, &std::pair<Key, Value>::first);
+    return row == std::end(table) ? nullptr : &row->second;
+}
+
 char16_t Raised(char16_t c) {
-    for (const auto& [plain, raised] : kSuperscripts) {
-        if (plain == c) {
-            return raised;
-        }
-    }
-    return c;
+    const char16_t* const raised = LookUp(kSuperscripts, c);
+    return raised != nullptr ? *raised : c;
 }
 
 std::string Print(std::u16string_view label) {
-    for (const auto& [mark, word] : kDrawnLabels) {
-        if (label == mark) {
-            return std::string(word);
-        }
+    if (const std::string_view* const word = LookUp(kDrawnLabels, label)) {
+        return std::string(*word);
     }
     const std::size_t root = label.find(u'\u221A');
     std::u16string printed;
@@ -196,33 +197,23 @@ class ScriptPlayer {
     }
 
     bool TapMark(std::string_view name) {
-        for (const auto& [markName, part] : kMarks) {
-            if (markName == name) {
-                const Rect rect = DisplayPartRect(part, rig_.frame.Scale());
-                const Point at{(rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2};
-                rig_.frame.Display().PenDown(at, rig_.frame.Scale());
-                rig_.frame.Display().PenUp(at, rig_.frame.Scale());
-                return true;
-            }
+        const DisplayPart* const part = LookUp(kMarks, name);
+        if (part != nullptr) {
+            const Rect rect = DisplayPartRect(*part, rig_.frame.Scale());
+            const Point at{(rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2};
+            rig_.frame.Display().PenDown(at, rig_.frame.Scale());
+            rig_.frame.Display().PenUp(at, rig_.frame.Scale());
         }
-        return false;
+        return part != nullptr;
     }
 
     bool Press(std::string_view name) {
-        for (const auto& [characterName, character] : kNamedCharacters) {
-            if (characterName == name) {
-                rig_.frame.Character(character);
-                return true;
-            }
-        }
-        for (const auto& [keyName, key] : kNamedKeys) {
-            if (keyName == name) {
-                rig_.frame.KeyDown(key);
-                rig_.frame.KeyUp(key);
-                return true;
-            }
-        }
-        if (name == "Ctrl+Z") {
+        if (const char16_t* const character = LookUp(kNamedCharacters, name)) {
+            rig_.frame.Character(*character);
+        } else if (const HardKey* const key = LookUp(kNamedKeys, name)) {
+            rig_.frame.KeyDown(*key);
+            rig_.frame.KeyUp(*key);
+        } else if (name == "Ctrl+Z") {
             rig_.frame.Undo();
         } else if (name == "Ctrl+Shift+Z") {
             rig_.frame.Redo();
@@ -279,20 +270,12 @@ std::string PressScript(FrameRig& rig, std::string_view script) {
 
 std::string PrintedLabel(int category, PanelCell cell, bool orange) {
     if (cell.panel == Panel::lower) {
-        for (const auto& [code, word] : kMacroPad) {
-            if (category == CATEGORY_MACROS && code == cell.cell) {
-                return std::string(word);
-            }
+        const std::string_view* const word = LookUp(kMacroPad, cell.cell);
+        if (word != nullptr && category == CATEGORY_MACROS) {
+            return std::string(*word);
         }
-        if (!orange) {
-            return Print(LabelOfKey(cell.cell));
-        }
-        for (const auto& [code, label] : kOrangeOfPad) {
-            if (code == cell.cell) {
-                return Print(label);
-            }
-        }
-        return Print(LabelOfKey(cell.cell));
+        const std::u16string_view* const label = orange ? LookUp(kOrangeOfPad, cell.cell) : nullptr;
+        return Print(label != nullptr ? *label : LabelOfKey(cell.cell));
     }
     if (const auto own = OwnLabelOfCell(category, cell.cell, orange); !own.empty()) {
         return Print(own);

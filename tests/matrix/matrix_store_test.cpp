@@ -5,8 +5,9 @@
 #include <cmath>
 #include <filesystem>
 
-#include "engine/evaluate.h"
+#include "engine/eval_matrix.h"
 #include "matrix/fixed_text.h"
+#include "matrix/matrix_operators.h"
 #include "matrix/statistics_list.h"
 #include "platform/files.h"
 #include "support/engine_fixture.h"
@@ -29,10 +30,7 @@ class DataStoreTest : public EngineTest {
         folder_.Write("statistics.dat", text);
         return LoadStatistics(folder_ / "statistics.dat");
     }
-    [[nodiscard]] std::string Text(std::string_view name) const {
-        const auto bytes = ReadWholeFile(folder_ / name);
-        return bytes ? std::string(bytes->begin(), bytes->end()) : "absent";
-    }
+    [[nodiscard]] std::string Text(std::string_view name) const { return folder_.Read(name); }
     [[nodiscard]] bool IsKept(std::string_view name) const {
         return std::filesystem::exists(folder_ / (std::string(name) + ".bad"));
     }
@@ -68,7 +66,9 @@ TEST_F(DataStoreTest, MatricesAreWrittenInTheFilesForm) {
     std::string list = List();
     EXPECT_EQ(store_.Load(folder_ / "matrix.dat"), MatrixLoad::good);
     EXPECT_EQ(List(), list.replace(list.find("0 0.00000000"), 12, "0 0"));
+    SetMatrixOperators(MatrixOperatorTable());
     EXPECT_EQ(Evaluate("det([VA])", 10, EvaluationMode::matrix), "0");
+    SetMatrixOperators({});
     store_.DeleteAll();
     ASSERT_TRUE(store_.Save(folder_ / "matrix.dat"));
     EXPECT_EQ(Text("matrix.dat"), "0\r\n");

@@ -15,12 +15,6 @@
 namespace quorix {
 namespace {
 
-QReal Q(std::string_view text) {
-    QReal a;
-    asctoq(text, a);
-    return a;
-}
-
 QComplex C(std::string_view re, std::string_view im) {
     return {Q(re), Q(im)};
 }
@@ -141,15 +135,9 @@ TEST(ComplexFunctions, CutsAndPrincipalValues) {
                  "0.549306144334054845697622618461252852323745278911374725867"},
                 {"atan(-2i)", qcatan, C("0", "-2"), kMinusHalfPi,
                  "-0.549306144334054845697622618461252852323745278911374725867"},
-                {"atan(1e200)", qcatan, C("1e200", "0"), kHalfPi, "0"},
                 {"asinh(-1e50)", qcasinh, C("-1e50", "0"), "-115.82240183026222951031680217", "0"},
-                {"asinh(1e-50)", qcasinh, C("1e-50", "0"), "1e-50", "0"},
-                {"tanh(1e9)", qctanh, C("1e9", "0"), "1", "0"},
                 {"tan(1e9i)", qctan, C("0", "1e9"), "0", "1"},
                 {"ln(-1)", qclog, C("-1", "0"), "0", kPi},
-                {"sqrt(-4)", qcsqrt, C("-4", "0"), "0", "2"},
-                {"sqrt(3-4i)", qcsqrt, C("3", "-4"), "2", "-1"},
-                {"exp(0)", qcexp, C("0", "0"), "1", "0"},
                 {"exp(i pi)", qcexp, {QReal{}, constants::kPi}, "-1", "0"},
                 {"tan(pi)", qctan, {constants::kPi, QReal{}}, "0", "0"}};
     ClearNumericError();

@@ -17,12 +17,6 @@ namespace {
 
 using constants::kOne;
 
-QReal Q(std::string_view text) {
-    QReal a;
-    asctoq(text, a);
-    return a;
-}
-
 using Function = void (*)(const QReal&, QReal&);
 using MpfrFunction = int (*)(mpfr_ptr, mpfr_srcptr, mpfr_rnd_t);
 
@@ -124,11 +118,7 @@ TEST(Functions, ExactAndKnownValues) {
         qpow(Q(row.x), Q(row.y), r);
         EXPECT_EQ(r, Q(row.power)) << row.x << '^' << row.y;
     }
-    qexp(QReal{}, r);
-    EXPECT_EQ(r, kOne);
     qlog(kOne, r);
-    EXPECT_EQ(r, QReal{});
-    qexp(Q("-20000"), r);
     EXPECT_EQ(r, QReal{});
     qexp(Q("-1e300"), r);
     EXPECT_EQ(r, QReal{});

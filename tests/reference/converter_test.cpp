@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <fstream>
 
 #include "engine/key_engine.h"
 #include "platform/archive.h"
@@ -12,6 +11,7 @@
 #include "reference/currency_table.h"
 #include "reference/number_text.h"
 #include "support/reference_rig.h"
+#include "support/text_rows.h"
 
 namespace quorix {
 namespace {
@@ -50,6 +50,13 @@ class ConverterTest : public ::testing::Test {
         const bool units = converter_->Mode() == ConverterMode::units;
         return Value(units ? unitFrom : curFrom) + " | " + Value(units ? unitTo : curTo);
     }
+    /// Both fields behind the keys of each row, one row after the other.
+    void ExpectBoth(std::string_view table) {
+        for (const auto& [keys, both] : Rows(table)) {
+            Keys(keys);
+            EXPECT_EQ(Both(), both) << keys;
+        }
+    }
     /// Opens a list at a spot and chooses a row of it.
     void Choose(HotSpot spot, int row) {
         PressOutcome outcome = converter_->Press(spot);
@@ -65,44 +72,19 @@ class ConverterTest : public ::testing::Test {
 TEST_F(ConverterTest, KeysMakeTheActiveFieldACalculatorThatTheOtherFieldFollows) {
     EXPECT_EQ(Label(catField), "Length");
     EXPECT_EQ(Both(), "0 | 0");
-    const struct {
-        std::string_view keys;
-        std::string both;
-    } rows[] = {
-        {"5", "5 | 500"},
-        {"C12*3", "3 | 300"},
-        {"C12*3+", "36 | 3¸600"},
-        {"C12*3=", "36 | 3¸600"},
-        {"C12*3\r", "36 | 3¸600"},
-        {"C3.=2", "32 | 3¸200"},
-        {"C3.5=2", "3.52 | 352"},
-        {"C1.50", "1.50 | 150"},
-        {"C12\b", "1 | 100"},
-        {"C12\b\b7", "7 | 700"},
-        {"C1.5\b\b4", "14 | 1¸400"},
-        {"C5+12\b=", "6 | 600"},
-        {"C12~", "-12 | -1¸200"},
-        {"C2.5~\b", "-2. | -200"},
-        {"C7MC1+R=", "8 | 800"},
-        {"C12R", "7 | 700"},
-        {"C5/0=", "Division by zero | "},
-        {"4", "4 | 400"},
-        {"C1/3=", "0.33333333333333333333333333333333 | 33.33333333"},
-        {"*", "0.33333333333333333333333333333333 | 33.33333333"},
-        {"\b", "0.3333333333333333333333333333333 | 33.33333333"},
-        {"C1000000000000*1000000=", "1.00000000000000000000000000000000E18 | 1.00000000e+20"},
-        {"C1000000000\t", "1¸000¸000¸000 | 100¸000¸000¸000"},
-        {"5", "0.05 | 5"},
-        {"\x1B", " | "},
-    };
-    for (const auto& row : rows) {
-        Keys(row.keys);
-        if (row.both.starts_with("Division")) {
-            EXPECT_TRUE(Both().ends_with(" | ") && Both().size() > 3) << Both();
-        } else {
-            EXPECT_EQ(Both(), row.both) << row.keys;
-        }
-    }
+    ExpectBoth(
+        "5 -> 5 | 500; C12*3 -> 3 | 300; C12*3+ -> 36 | 3¸600; C12*3= -> 36 | 3¸600; "
+        "C12*3\r -> 36 | 3¸600; C3.=2 -> 32 | 3¸200; C3.5=2 -> 3.52 | 352; C1.50 -> 1.50 | 150; "
+        "C12\b -> 1 | 100; C12\b\b7 -> 7 | 700; C1.5\b\b4 -> 14 | 1¸400; C5+12\b= -> 6 | 600; "
+        "C12~ -> -12 | -1¸200; C2.5~\b -> -2. | -200; C7MC1+R= -> 8 | 800; C12R -> 7 | 700");
+    Keys("C5/0=");
+    EXPECT_TRUE(Both().ends_with(" | ") && Both().size() > 3) << Both();
+    ExpectBoth(
+        "4 -> 4 | 400; C1/3= -> 0.33333333333333333333333333333333 | 33.33333333; "
+        "* -> 0.33333333333333333333333333333333 | 33.33333333; "
+        "\b -> 0.3333333333333333333333333333333 | 33.33333333; "
+        "C1000000000000*1000000= -> 1.00000000000000000000000000000000E18 | 1.00000000e+20; "
+        "C1000000000\t -> 1¸000¸000¸000 | 100¸000¸000¸000; 5 -> 0.05 | 5; \x1B ->  | ");
     EXPECT_FALSE(converter_->OnKey(','));
     EXPECT_FALSE(converter_->OnKey('x'));
     EXPECT_FALSE(converter_->OnKey(0x10030));
@@ -216,12 +198,7 @@ TEST_F(ConverterTest, EditedRatesAreKept) {
     EXPECT_EQ(rates.Fill()[2].rate, u"125.000000");
     const std::u16string edited[] = {u"3", u"0", u"0.5x"};
     ASSERT_TRUE(rates.Store(edited, converter_->CurrencyFile()));
-    std::string text;
-    {
-        std::ifstream stream(rig_.folder / "currency.dat");
-        text.assign(std::istreambuf_iterator<char>(stream), {});
-    }
-    EXPECT_EQ(text,
+    EXPECT_EQ(rig_.folder.Read("currency.dat"),
               "#Date: 30 Jun 2025\n\n#Begin:Currency:0\n\tUSD\tUSD\t!\n\tEuro\tEUR\t1.25000000000\t0\tUSD\n"
               "\tYen\tJPY\t2.00000000000\t0\tUSD\n#End");
     // An update has put other rows in the place of those on show.

@@ -5,6 +5,7 @@
 #include "platform/utf8.h"
 #include "reference/unit_definition.h"
 #include "support/temporary_folder.h"
+#include "support/text_rows.h"
 
 namespace quorix {
 namespace {
@@ -147,48 +148,31 @@ TEST_F(DataFile, ListsGrowAndEndAtTheirBound) {
     EXPECT_EQ(reader_.ErrorText(), u"Stack over flow.");
 }
 
+std::string TermsOf(std::string_view definition) {
+    std::vector<std::u16string> above;
+    std::vector<std::u16string> below;
+    if (!ParseUnitDefinition(FromUtf8(definition), above, below)) {
+        return "fails";
+    }
+    std::string terms;
+    for (const auto& term : above) {
+        terms += ToUtf8(term) + " ";
+    }
+    terms += "/";
+    for (const auto& term : below) {
+        terms += " " + ToUtf8(term);
+    }
+    return terms;
+}
+
 TEST(UnitDefinition, TermsGoAboveAndBelowTheLine) {
-    const struct {
-        std::u16string_view text;
-        std::string terms;
-    } rows[] = {
-        {u"kg*m/s^2", "kg m / s s"},
-        {u"J/(kg*K)", "J / kg K"},
-        {u"m/s*kg", "m kg / s"},
-        {u"m/s^2*kg", "m kg / s s"},
-        {u"a/b/c", "a c / b"},
-        {u"1/s", "1 / s"},
-        {u"J/(kg^2*K)", "J / kg kg K"},
-        {u"(a)*b/c*d", "a b / c d"},
-        {u"x^0", "/"},
-        {u"m^3", "m m m /"},
-        {u"a*b*", "a b /"},
-        {u"", "/"},
-        {u"m s", "fails"},
-        {u"x^", "fails"},
-        {u"x^y", "fails"},
-        {u"x^-1", "fails"},
-        {u"^2", "fails"},
-        {u"(a*b)^2", "fails"},
-        {u"x^2^3", "fails"},
-        {u"x^99999999999999999999", "fails"},
-        {u"a^600*b^600", "fails"},
-    };
-    for (const auto& row : rows) {
-        std::vector<std::u16string> above;
-        std::vector<std::u16string> below;
-        std::string terms = "fails";
-        if (ParseUnitDefinition(row.text, above, below)) {
-            terms.clear();
-            for (const auto& term : above) {
-                terms += ToUtf8(term) + " ";
-            }
-            terms += "/";
-            for (const auto& term : below) {
-                terms += " " + ToUtf8(term);
-            }
-        }
-        EXPECT_EQ(terms, row.terms) << ToUtf8(row.text);
+    for (const auto& [definition, terms] :
+         Rows("kg*m/s^2 -> kg m / s s; J/(kg*K) -> J / kg K; m/s*kg -> m kg / s; m/s^2*kg -> m kg / s s; "
+              "a/b/c -> a c / b; 1/s -> 1 / s; J/(kg^2*K) -> J / kg kg K; (a)*b/c*d -> a b / c d; x^0 -> /; "
+              "m^3 -> m m m /; a*b* -> a b /;  -> /; m s -> fails; x^ -> fails; x^y -> fails; x^-1 -> fails; "
+              "^2 -> fails; (a*b)^2 -> fails; x^2^3 -> fails; x^99999999999999999999 -> fails; "
+              "a^600*b^600 -> fails")) {
+        EXPECT_EQ(TermsOf(definition), terms) << definition;
     }
 }
 

@@ -28,15 +28,10 @@ std::string FormulaText(std::string_view id, std::string_view name) {
            "\nPara = \"x\" \"\" \"\" \"x\" \"\"\nFor = \"\"\nImage = \"\"\n";
 }
 
-std::string Contents(const fs::path& path) {
-    const auto bytes = ReadWholeFile(path);
-    return bytes ? std::string(bytes->begin(), bytes->end()) : "absent";
-}
-
-std::vector<std::string> AllFiles(const fs::path& folder) {
+std::vector<std::string> AllFiles(const TemporaryFolder& folder, const std::string& prefix = {}) {
     std::vector<std::string> contents;
     for (const std::string_view name : kFiles) {
-        contents.push_back(Contents(folder / name));
+        contents.push_back(folder.Read(prefix + std::string(name)));
     }
     return contents;
 }
@@ -50,7 +45,7 @@ struct Rig {
         folder.Write("import.txt", text);
         return library.ImportFormulas(folder / "import.txt", append);
     }
-    std::vector<std::string> Files() const { return AllFiles(folder / "Formulas"); }
+    std::vector<std::string> Files() const { return AllFiles(folder, "Formulas/"); }
     std::optional<FormulaDescription> Description(FormulaId id) const {
         const auto index = library.ReadIndex();
         const FormulaIndexEntry* entry = FindFormula(index, id);
@@ -109,11 +104,11 @@ TEST(FormulaLibrary, AppendsAndDeletesAndSortsByBytes) {
     ASSERT_TRUE(rig.Import(text, true).done);
     EXPECT_EQ(rig.library.ReadIndex().size(), 6U);
     EXPECT_EQ(rig.library.ReadTree().Nodes().size(), 6U) << "three roots, and each formula once";
-    const std::string before = Contents(rig.folder / "Formulas/fortree.dat");
+    const std::string before = rig.folder.Read("Formulas/fortree.dat");
     EXPECT_LT(before.find("Twenty"), before.find("Two"));
     ASSERT_TRUE(rig.library.DeleteFormulas({0x01020000, 0x01030000}, {true, false}));
     EXPECT_EQ(
-        Contents(rig.folder / "Formulas/fortree.dat"),
+        rig.folder.Read("Formulas/fortree.dat"),
         ".1 =Mathematic= 2\r\n.1.20 =Twenty= 1\r\n.1.20 =Twenty= 1\r\n.1.3 =Three= 1\r\n.1.3 =Three= 1\r\n"
         ".2 =Physics= 2\r\n.3 =Electric Engineering= 2\r\n");
     EXPECT_EQ(rig.library.ReadIndex().size(), 4U);
@@ -219,10 +214,10 @@ TEST(FormulaLibrary, DamagedLibrariesAreKeptAsideBeforeTheyAreRewritten) {
     ASSERT_TRUE(rig.Import(FormulaText("1.1", "One") + FormulaText("1.2", "Two"), false).done);
     const fs::path folder = rig.folder / "Formulas";
     fs::resize_file(folder / "fordes.dat", fs::file_size(folder / "fordes.dat") - 1);
-    const std::string damaged = Contents(folder / "fordes.dat");
+    const std::string damaged = rig.folder.Read("Formulas/fordes.dat");
     ASSERT_TRUE(rig.library.DeleteFormulas({0x01010000}, {true}));
     EXPECT_TRUE(rig.library.ReadIndex().empty());
-    EXPECT_EQ(Contents(folder / "fordes.dat.bad"), damaged);
+    EXPECT_EQ(rig.folder.Read("Formulas/fordes.dat.bad"), damaged);
     fs::resize_file(folder / "indexfor.dat", 2);
     EXPECT_FALSE(rig.library.DeleteFormulas({0x01020000}, {true}));
     EXPECT_TRUE(rig.Import(FormulaText("1.3", "Three"), true).done);
@@ -257,7 +252,7 @@ TEST(FormulaLibrary, AnInterruptedChangeIsFinishedOrForgotten) {
                   i < row.renamed ? std::string(order[i]) : "tmp_" + std::string(order[i]));
         }
         const FormulaLibrary library(folder.Path());
-        EXPECT_EQ(AllFiles(folder.Path()), row.finished ? next.Files() : old.Files());
+        EXPECT_EQ(AllFiles(folder), row.finished ? next.Files() : old.Files());
         EXPECT_EQ(std::distance(fs::directory_iterator(folder.Path()), {}), 4);
     }
 }

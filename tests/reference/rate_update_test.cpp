@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <fstream>
-
 #include "reference/currency_file.h"
 #include "reference/update_settings.h"
 #include "support/reference_rig.h"
@@ -23,10 +21,7 @@ class RateUpdate : public ::testing::Test {
                           "# server\nserver = rates.test\nport=8080\nuser=abc\npassword=xyz\nport=0\n");
     }
     std::string Update() { return ToUtf8(UpdateRates(file_, rig_.http, rig_.notices, table_)); }
-    std::string File() {
-        std::ifstream stream(file_);
-        return {std::istreambuf_iterator<char>(stream), {}};
-    }
+    std::string File() { return rig_.folder.Read("currency.dat"); }
 
     testing::ConverterRig rig_;
     std::filesystem::path file_ = rig_.folder / "currency.dat";

@@ -4,6 +4,7 @@
 
 #include <cmath>
 #include <set>
+#include <sstream>
 
 #include "engine/calc_context.h"
 #include "engine/evaluate.h"
@@ -13,6 +14,7 @@
 #include "reference/currency_file.h"
 #include "reference/data_file_reader.h"
 #include "reference/unit_table.h"
+#include "support/text_rows.h"
 
 namespace quorix {
 namespace {
@@ -62,35 +64,20 @@ TEST(ShippedUnits, EveryNameAndSymbolMeansOneUnit) {
 TEST(ShippedUnits, AgreeWithKnownPairs) {
     UnitTable table;
     ASSERT_TRUE(table.Load(kAssets / "units.dat"));
-    const struct {
-        std::u16string_view from, to;
-        double value, result;
-    } rows[] = {
-        {u"°C", u"°F", 100, 212},
-        {u"°F", u"°C", -40, -40},
-        {u"°De", u"°C", 0, 100},
-        {u"°Rø", u"°C", 60, 100},
-        {u"mi", u"km", 1, 1.609344},
-        {u"gal", u"L", 1, 3.785411784},
-        {u"psi", u"Pa", 1, 6894.757293168361},
-        {u"hp", u"W", 1, 745.6998715822702},
-        {u"mpg", u"km/L", 1, 0.4251437074976},
-        {u"MiB", u"bit", 1, 8388608},
-        {u"kn", u"km/h", 1, 1.852},
-        {u"pc", u"ly", 1, 3.261563777167433},
-        {u"atm", u"Torr", 1, 760},
-        {u"kWh", u"Btu", 1, 3412.141633127942},
-        {u"Sv", u"rem", 1, 100},
-        {u"toise", u"m", 1, 1.9490363},
-        {u"W", u"J/h", 1, 3600},
-        {u"lb/ft³", u"kg/m³", 1, 16.01846337396014},
-        {u"L/100km", u"gal/100mi", 10, 4.251437074976},
-    };
-    for (const auto& row : rows) {
-        double factor = 0, offset = 0;
-        ASSERT_TRUE(table.GetConversion(row.from, row.to, factor, offset)) << ToUtf8(row.from);
-        EXPECT_NEAR(row.value * factor + offset, row.result, 1e-7 * std::fabs(row.result))
-            << ToUtf8(row.from);
+    for (const auto& [quantity, result] :
+         Rows("100 °C °F -> 212; -40 °F °C -> -40; 0 °De °C -> 100; 60 °Rø °C -> 100; 1 mi km -> 1.609344; "
+              "1 gal L -> 3.785411784; 1 psi Pa -> 6894.757293168361; 1 hp W -> 745.6998715822702; "
+              "1 mpg km/L -> 0.4251437074976; 1 MiB bit -> 8388608; 1 kn km/h -> 1.852; "
+              "1 pc ly -> 3.261563777167433; 1 atm Torr -> 760; 1 kWh Btu -> 3412.141633127942; "
+              "1 Sv rem -> 100; 1 toise m -> 1.9490363; 1 W J/h -> 3600; "
+              "1 lb/ft³ kg/m³ -> 16.01846337396014; 10 L/100km gal/100mi -> 4.251437074976")) {
+        std::istringstream words(quantity);
+        double value = 0, factor = 0, offset = 0;
+        std::string from, to;
+        words >> value >> from >> to;
+        ASSERT_TRUE(table.GetConversion(FromUtf8(from), FromUtf8(to), factor, offset)) << quantity;
+        const double expected = std::stod(result);
+        EXPECT_NEAR(value * factor + offset, expected, 1e-7 * std::fabs(expected)) << quantity;
     }
 }
 

@@ -113,14 +113,5 @@ TEST_F(Units, ABadLineKeepsTheRowsBeforeIt) {
     EXPECT_EQ(table_.ErrorText(), u"Unknown Unit.");
 }
 
-TEST_F(Units, TheTableGrows) {
-    std::string text;
-    for (int i = 0; i < 5000; ++i) {
-        text += "Unit" + std::to_string(i) + " u" + std::to_string(i) + " !\n";
-    }
-    ASSERT_TRUE(Load(text));
-    EXPECT_EQ(table_.FindIndex(u"u4999"), 5000U);
-}
-
 }  // namespace
 }  // namespace quorix

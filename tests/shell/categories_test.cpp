@@ -15,8 +15,7 @@ using testing::TemporaryFolder;
 using Log = std::vector<std::string>;
 
 TEST(Categories, WindowsComeAndGoWithTheirCategories) {
-    const TemporaryFolder folder;
-    FrameRig rig(folder.Path());
+    FrameRig rig;
     rig.host.TakeLog();
     const auto log = [&rig](int category) {
         rig.frame.SwitchCategory(category);
@@ -38,8 +37,7 @@ TEST(Categories, WindowsComeAndGoWithTheirCategories) {
 }
 
 TEST(Categories, KeysReachTheWindowThatTakesThem) {
-    const TemporaryFolder folder;
-    FrameRig rig(folder.Path());
+    FrameRig rig;
     rig.frame.SwitchCategory(CATEGORY_TIP);
     rig.host.TakeLog();
     rig.sound.played.clear();
@@ -58,8 +56,7 @@ TEST(Categories, KeysReachTheWindowThatTakesThem) {
 }
 
 TEST(Categories, AMacroUnderEditKeepsToItsPages) {
-    const TemporaryFolder folder;
-    FrameRig rig(folder.Path());
+    FrameRig rig;
     rig.frame.SwitchCategory(CATEGORY_MACROS);
     rig.frame.ToggleMacroEditing();
     rig.host.TakeLog();
@@ -100,8 +97,7 @@ TEST(Categories, InputModeReturnsWithThePagesThatKnowIt) {
 }
 
 TEST(Categories, ChangedPreferencesKeepTheValuesOnShow) {
-    const TemporaryFolder folder;
-    FrameRig rig(folder.Path());
+    FrameRig rig;
     rig.TypeText(u"1234.5*2=");
     Preferences changed = rig.frame.UserSettings();
     for (const auto& [locale, line, result] :
@@ -128,8 +124,7 @@ TEST(Categories, ChangedPreferencesKeepTheValuesOnShow) {
 }
 
 TEST(Categories, TheChooserOpensClosesAndLatches) {
-    const TemporaryFolder folder;
-    FrameRig rig(folder.Path());
+    FrameRig rig;
     rig.host.TakeLog();
     const PanelCell chooser{Panel::upper, CELL_CHOOSER};
     rig.Tap(chooser);

@@ -4,12 +4,11 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
+#include <array>
+#include <cstdio>
 #include <ostream>
 #include <string>
 #include <string_view>
-#include <utility>
-#include <vector>
 
 #include "engine/calc_context.h"
 #include "engine/evaluate.h"
@@ -19,6 +18,7 @@
 #include "engine/variable_store.h"
 #include "numerics/qcore.h"
 #include "platform/utf8.h"
+#include "support/text_rows.h"
 
 namespace quorix {
 
@@ -43,7 +43,11 @@ inline std::string TextOf(const QComplex& value) {
 inline std::string TextOf(const CalcValue& value) {
     if (value.kind != KIND_MATRIX) return TextOf(value.number);
     std::string text = std::to_string(value.rows) + "x" + std::to_string(value.cols) + ":";
-    for (const double element : value.data) text += " " + std::to_string(element);
+    for (const double element : value.data) {
+        std::array<char, 32> digits{};
+        std::snprintf(digits.data(), digits.size(), " %.12g", element);
+        text += digits.data();
+    }
     return text;
 }
 
@@ -65,18 +69,6 @@ inline std::string Evaluate(std::string_view text, int radix = 10,
     const std::int32_t error = calcContext().calcError;
     ClearCalcError();
     return error != 0 ? "error " + std::to_string(error) : TextOf(value);
-}
-
-/// Pairs of a table written as "text -> result; text -> result".
-inline std::vector<std::pair<std::string, std::string>> Rows(std::string_view table) {
-    std::vector<std::pair<std::string, std::string>> rows;
-    for (std::size_t at = 0; at < table.size();) {
-        const std::size_t end = std::min(table.find("; ", at), table.size());
-        const std::size_t arrow = table.find(" -> ", at);
-        rows.emplace_back(table.substr(at, arrow - at), table.substr(arrow + 4, end - arrow - 4));
-        at = end + 2;
-    }
-    return rows;
 }
 
 class EngineTest : public testing::Test {

@@ -66,8 +66,10 @@ class FakeSound : public SoundPlayer {
 
 class FrameRig {
   public:
+    /// In a folder of its own.
+    explicit FrameRig(DeviceScreen screen = {480, 640}) : FrameRig({}, screen) {}
     explicit FrameRig(const std::filesystem::path& folder, DeviceScreen screen = {480, 640})
-        : frame({.folder = folder,
+        : frame({.folder = folder.empty() ? ownFolder.Path() : folder,
                  .host = host,
                  .clock = clock,
                  .frameTimers = &timers,
@@ -104,6 +106,7 @@ class FrameRig {
     [[nodiscard]] std::string Row() const { return ToUtf8(frame.Display().GetLine()); }
     [[nodiscard]] std::string Result() const { return ToUtf8(frame.Display().GetResultText()); }
 
+    TemporaryFolder ownFolder;
     FakeHost host;
     FakeSound sound;
     FakeClock clock;

@@ -9,11 +9,18 @@
 #include <cstdint>
 #include <cstdio>
 #include <ostream>
+#include <string_view>
 
 #include "numerics/qcore.h"
 #include "numerics/qreal.h"
 
 namespace quorix {
+
+inline QReal Q(std::string_view text) {
+    QReal a;
+    asctoq(text, a);
+    return a;
+}
 
 /// " 3.14...E0 [4102 C90F DAA2 ...]": 30 decimals, then exponent and mantissa words in hexadecimal.
 inline void PrintTo(const QReal& a, std::ostream* out) {

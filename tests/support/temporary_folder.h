@@ -4,6 +4,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <string>
 #include <vector>
 
@@ -26,6 +27,11 @@ class TemporaryFolder {
     [[nodiscard]] const std::filesystem::path& Path() const { return path_; }
     [[nodiscard]] std::filesystem::path operator/(std::string_view name) const { return path_ / name; }
 
+    /// The content of a file, or "absent".
+    [[nodiscard]] std::string Read(std::string_view name) const {
+        std::ifstream stream(path_ / name, std::ios::binary);
+        return stream ? std::string(std::istreambuf_iterator<char>(stream), {}) : "absent";
+    }
     void Write(std::string_view name, const std::vector<std::uint8_t>& bytes) const {
         std::ofstream(path_ / name, std::ios::binary)
             .write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));

@@ -8,6 +8,7 @@
 #include <fstream>
 #include <iterator>
 #include <set>
+#include <sstream>
 #include <string>
 
 #include "engine/identifiers.h"
@@ -21,6 +22,7 @@
 #include "shell/skin.h"
 #include "strips.h"
 #include "typeface.h"
+#include "windows/pixels.h"
 
 namespace quorix {
 namespace {
@@ -92,16 +94,12 @@ TEST(Art, TheCommittedPicturesAreWhatTheGeneratorDraws) {
             DrawStrip(strip, {palette, typeface}, scale).convertToFormat(QImage::Format_ARGB32_Premultiplied);
         const QImage kept = ToQImage(committed);
         int differing = 0;
-        for (int y = 0; y < drawn.height(); ++y) {
-            for (int x = 0; x < drawn.width(); ++x) {
-                const QRgb a = drawn.pixel(x, y);
-                const QRgb b = kept.pixel(x, y);
-                const int distance =
-                    std::max({std::abs(qRed(a) - qRed(b)), std::abs(qGreen(a) - qGreen(b)),
-                              std::abs(qBlue(a) - qBlue(b)), std::abs(qAlpha(a) - qAlpha(b))});
-                differing += distance > kPixelTolerance ? 1 : 0;
-            }
-        }
+        testing::ForEachPixel(drawn, [&](QRgb a, int x, int y) {
+            const QRgb b = kept.pixel(x, y);
+            const int distance = std::max({std::abs(qRed(a) - qRed(b)), std::abs(qGreen(a) - qGreen(b)),
+                                           std::abs(qBlue(a) - qBlue(b)), std::abs(qAlpha(a) - qAlpha(b))});
+            differing += distance > kPixelTolerance ? 1 : 0;
+        });
         EXPECT_LE(differing, kDifferingPart * drawn.width() * drawn.height());
     });
 }
@@ -203,49 +201,20 @@ TEST(Art, NoLabelReachesTheSideOfItsCell) {
 }
 
 TEST(Art, BothSkinsNameEveryPictureThatAWindowAsksFor) {
-    constexpr const char* kKeys[] = {"BoderColores",
-                                     "Logo",
-                                     "DateTime",
-                                     "NumberKeyboard",
-                                     "NumberKeyboardFunctions",
-                                     "EquationsSolver_Operators",
-                                     "EquationsSolver_Back",
-                                     "EquationsSolver_DeleteButtons",
-                                     "EquationsSolver_ScrollUpButton",
-                                     "EquationsSolver_ScrollDownButton",
-                                     "EquationScroll",
-                                     "GraphOperators",
-                                     "GraphNewIcon",
-                                     "GraphCloseIcon",
-                                     "GraphTextXY",
-                                     "FormulaButtons",
-                                     "Formula_Back",
-                                     "Formula_Next",
-                                     "Formula_Play",
-                                     "Formula_Panel",
-                                     "Formula_Operators",
-                                     "Formula_Switch_ClearAll",
-                                     "Formula_List_Background",
-                                     "Formula_List_DownArrow",
-                                     "Formula_List_UpArrow",
-                                     "Formula_List_IconItem",
-                                     "Formula_List_Thumb",
-                                     "FormulaKeyboard",
-                                     "CategoryButtons",
-                                     "Category",
-                                     "ChangePageButtons",
-                                     "NormalPanelSymbols",
-                                     "CategoryLabels",
-                                     "ToolsPanel",
-                                     "ToolsPanelMask",
-                                     "ListBox",
-                                     "ListBoxButtons",
-                                     "Keyboard",
-                                     "SkinPreview"};
+    std::istringstream names(
+        "BoderColores Logo DateTime NumberKeyboard NumberKeyboardFunctions EquationsSolver_Operators "
+        "EquationsSolver_Back EquationsSolver_DeleteButtons EquationsSolver_ScrollUpButton "
+        "EquationsSolver_ScrollDownButton EquationScroll GraphOperators GraphNewIcon GraphCloseIcon "
+        "GraphTextXY FormulaButtons Formula_Back Formula_Next Formula_Play Formula_Panel "
+        "Formula_Operators Formula_Switch_ClearAll Formula_List_Background Formula_List_DownArrow "
+        "Formula_List_UpArrow Formula_List_IconItem Formula_List_Thumb FormulaKeyboard "
+        "CategoryButtons Category ChangePageButtons NormalPanelSymbols CategoryLabels ToolsPanel "
+        "ToolsPanelMask ListBox ListBoxButtons Keyboard SkinPreview");
+    const std::vector<std::string> keys{std::istream_iterator<std::string>(names), {}};
     for (const char16_t* file : {u"default.inf", u"Black Skin.inf"}) {
         for (const int scale : {1, 2}) {
             const Skin skin(kSource / "assets", DeviceScreen{240 * scale, 320 * scale});
-            for (const char* key : kKeys) {
+            for (const std::string& key : keys) {
                 EXPECT_TRUE(std::filesystem::is_regular_file(skin.FindSkinValue(key, file)))
                     << key << " at scale " << scale;
             }

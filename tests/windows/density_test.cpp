@@ -1,21 +1,13 @@
 // Pictures on zoomed windows and dense desktops. The test program runs a second time with two desktop pixels
 // for a point, so that both kinds of density are seen.
 
-#include <gtest/gtest.h>
-
-#include <QApplication>
-#include <QKeyEvent>
 #include <QPainter>
 
-#include "platform/program_folder.h"
 #include "platform/qt/pictures.h"
-#include "shell/main_frame_wnd.h"
-#include "support/temporary_folder.h"
+#include "windows/frame_window.h"
 
 namespace quorix {
 namespace {
-
-using testing::TemporaryFolder;
 
 /// Endings of the files by pixels for a unit.
 constexpr const char* kMarks[] = {"", "", "_VGA", "_VGA@1.5x", "_VGA@2x"};
@@ -23,25 +15,14 @@ constexpr int kDensest = 4;
 constexpr int kLabelUnits = 41;
 constexpr int kLabelHeightUnits = 34;
 
-class DensityTest : public ::testing::Test {
+class DensityTest : public testing::FrameWindowTest {
   protected:
-    DensityTest() {
-        SeedFolder(ExecutableFolder(), folder_.Path());
-        window_ = std::make_unique<MainFrameWnd>(folder_.Path());
-        EXPECT_TRUE(window_->Create());
-        window_->show();
-    }
-
-    void Press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-        QKeyEvent down(QEvent::KeyPress, key, modifiers);
-        QApplication::sendEvent(window_.get(), &down);
-    }
     void ZoomOut() {
         for (int i = 0; i < 3; ++i) {
-            Press(Qt::Key_Minus, Qt::ControlModifier);
+            Press(*window_, Qt::Key_Minus, Qt::ControlModifier);
         }
     }
-    void ZoomIn() { Press(Qt::Key_Plus, Qt::ControlModifier); }
+    void ZoomIn() { Press(*window_, Qt::Key_Plus, Qt::ControlModifier); }
 
     [[nodiscard]] double PixelsPerUnit() const { return window_->Scale() * window_->Density(); }
     [[nodiscard]] QImage Grab() { return window_->grab().toImage().convertToFormat(QImage::Format_RGB32); }
@@ -59,8 +40,7 @@ class DensityTest : public ::testing::Test {
         return picture;
     }
 
-    TemporaryFolder folder_;
-    std::unique_ptr<MainFrameWnd> window_;
+    std::unique_ptr<MainFrameWnd> window_ = Open();
 };
 
 TEST_F(DensityTest, AKeyHasThePixelsOfTheFileOfItsDensityAtEveryZoom) {
@@ -93,7 +73,7 @@ TEST_F(DensityTest, AKeyHasThePixelsOfTheFileOfItsDensityAtEveryZoom) {
 }
 
 TEST_F(DensityTest, AStretchedCapKeepsItsCornersPixelForPixel) {
-    Press(Qt::Key_F9);
+    Press(*window_, Qt::Key_F9);
     ASSERT_EQ(window_->Frame().CurrentOrientation(), Orientation::landscape);
     for (int zoomStep = 0; zoomStep < 3; ++zoomStep, ZoomIn()) {
         const int density = static_cast<int>(PixelsPerUnit());

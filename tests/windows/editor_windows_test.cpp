@@ -3,20 +3,23 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QKeyEvent>
-#include <QMouseEvent>
 
 #include "frontends/hint_wnd.h"
 #include "frontends/led_wnd.h"
 #include "frontends/morvane_cal_edit_wnd.h"
 #include "frontends/type_ahead_wnd.h"
 #include "platform/qt/pictures.h"
+#include "windows/pixels.h"
+#include "windows/pointer.h"
 #include "windows/screen_rig.h"
 
 namespace quorix {
 namespace {
 
 using testing::CalculatorRig;
+using testing::CountOf;
 using testing::KeepScreenshot;
+using testing::Tap;
 
 constexpr int kScale = 2;
 constexpr Rect kClient{0, 0, 480, 588};
@@ -38,28 +41,10 @@ class FrameStub : public WindowBase {
     void Paint(QPainter& painter, const Rect&) override { painter.fillRect(0, 0, 480, 588, Qt::darkGray); }
 };
 
-void Tap(QWidget& window, QPointF at, Qt::MouseButton button = Qt::LeftButton) {
-    for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
-        const bool down = type == QEvent::MouseButtonPress;
-        QMouseEvent event(type, at, window.mapToGlobal(at), button, down ? button : Qt::NoButton, {});
-        QApplication::sendEvent(&window, &event);
-    }
-}
-
 bool Press(QWidget& window, int key, const QString& text = {}, Qt::KeyboardModifiers modifiers = {}) {
     QKeyEvent event(QEvent::KeyPress, key, modifiers, text);
     QApplication::sendEvent(&window, &event);
     return event.isAccepted();
-}
-
-int PixelsOf(const QImage& picture, QColor color) {
-    int count = 0;
-    for (int y = 0; y < picture.height(); ++y) {
-        for (int x = 0; x < picture.width(); ++x) {
-            count += picture.pixelColor(x, y) == color;
-        }
-    }
-    return count;
 }
 
 TEST(MorvaneCalEditWnd, TapsKeysAndLooks) {
@@ -87,8 +72,7 @@ TEST(MorvaneCalEditWnd, TapsKeysAndLooks) {
     EXPECT_EQ(picture.pixelColor(198, 1), field);
     EXPECT_GT(box.Edit().Line().FirstVisible(), 0);
     EXPECT_EQ(box.SpokenText(), QStringLiteral("1234567890×(1+2)÷3−4"));
-    EXPECT_EQ(PixelsOf(picture, QColor::fromRgb(display_colors::kCursor)),
-              kCalEditCursorRoom * kScale * 2 * kScale);
+    EXPECT_EQ(CountOf(picture, display_colors::kCursor), kCalEditCursorRoom * kScale * 2 * kScale);
     box.SetPlace({20, 200, 460, 246});
     box.grab();
     EXPECT_EQ(box.Edit().Line().FirstVisible(), 0);
@@ -112,11 +96,10 @@ TEST(LedWnd, TellsWhereTheCursorIs) {
         led.InvalidateAll();
         const QImage picture = frame.grab().toImage();
         const QImage bar = picture.copy(cursor.left, cursor.top, cursor.Width(), cursor.Height());
-        EXPECT_EQ(PixelsOf(bar, QColor::fromRgb(display_colors::kCursor)), cursor.Width() * cursor.Height());
+        EXPECT_EQ(CountOf(bar, display_colors::kCursor), cursor.Width() * cursor.Height());
         const Rect row = DisplayPartRect(DisplayPart::textRow, kScale);
         const QImage line = led.grab().toImage().copy(0, row.top, kLed.Width(), row.Height());
-        EXPECT_EQ(PixelsOf(line, QColor::fromRgb(display_colors::kCursor)), cursor.Width() * cursor.Height())
-            << keys;
+        EXPECT_EQ(CountOf(line, display_colors::kCursor), cursor.Width() * cursor.Height()) << keys;
     }
     led.Copy(true);
     rig.Type("c");

@@ -1,65 +1,20 @@
-#include "shell/main_frame_wnd.h"
-
-#include <gtest/gtest.h>
-
-#include <QApplication>
-#include <QKeyEvent>
-#include <QMenu>
-#include <QMouseEvent>
 #include <QScreen>
 #include <csignal>
 
-#include "platform/program_folder.h"
 #include "platform/qt/termination.h"
-#include "platform/utf8.h"
-#include "support/temporary_folder.h"
+#include "windows/frame_window.h"
+#include "windows/pixels.h"
 
 namespace quorix {
 namespace {
 
-using testing::TemporaryFolder;
-
-/// A program folder with the shipped content, and the window on it.
-class MainFrameWndTest : public ::testing::Test {
+class MainFrameWndTest : public testing::FrameWindowTest {
   protected:
-    MainFrameWndTest() { SeedFolder(ExecutableFolder(), folder_.Path()); }
-
-    std::unique_ptr<MainFrameWnd> Open() {
-        auto window = std::make_unique<MainFrameWnd>(folder_.Path());
-        EXPECT_TRUE(window->Create());
-        window->show();
-        return window;
-    }
-
-    static void Send(QWidget& target, QEvent::Type type, QPointF at) {
-        const auto buttons = type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton;
-        QMouseEvent event(type, at, target.mapToGlobal(at), Qt::LeftButton, buttons, Qt::NoModifier);
-        QApplication::sendEvent(&target, &event);
-    }
     static void Tap(MainFrameWnd& window, PanelCell cell) {
         const Rect rect = CellRect(window.Frame().CurrentOrientation(), cell).Scaled(window.Scale());
         const QPointF at(rect.left + rect.Width() / 2.0, rect.top + rect.Height() / 2.0);
-        Send(window, QEvent::MouseButtonPress, at * window.Zoom());
-        Send(window, QEvent::MouseButtonRelease, at * window.Zoom());
+        testing::Tap(window, at * window.Zoom());
     }
-    static void Press(MainFrameWnd& window, int key, const QString& text = {},
-                      Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-        QKeyEvent down(QEvent::KeyPress, key, modifiers, text);
-        QKeyEvent up(QEvent::KeyRelease, key, modifiers, text);
-        QApplication::sendEvent(&window, &down);
-        QApplication::sendEvent(&window, &up);
-    }
-    static void TypeText(MainFrameWnd& window, const QString& text) {
-        for (const QChar character : text) {
-            Press(window, 0, QString(character));
-        }
-    }
-    static std::string Row(MainFrameWnd& window) { return ToUtf8(window.Frame().Display().GetLine()); }
-    static std::string Result(MainFrameWnd& window) {
-        return ToUtf8(window.Frame().Display().GetResultText());
-    }
-
-    TemporaryFolder folder_;
 };
 
 TEST_F(MainFrameWndTest, TapsAndKeysComputeInEveryShapeAndSize) {
@@ -75,12 +30,12 @@ TEST_F(MainFrameWndTest, TapsAndKeysComputeInEveryShapeAndSize) {
             EXPECT_FALSE(window->grab().toImage().isNull());
             Press(*window, Qt::Key_F9);
         }
-        Press(*window, Qt::Key_Minus, {}, Qt::ControlModifier);
+        Press(*window, Qt::Key_Minus, Qt::ControlModifier);
         for (int i = 0; i < zoomSteps; ++i) {
-            Press(*window, Qt::Key_Plus, {}, Qt::ControlModifier);
+            Press(*window, Qt::Key_Plus, Qt::ControlModifier);
         }
     }
-    Press(*window, Qt::Key_Escape, QString(QChar(27)));
+    Press(*window, Qt::Key_Escape, {}, QString(QChar(27)));
     TypeText(*window, QStringLiteral("(1+2)*3"));
     Press(*window, Qt::Key_Return);
     EXPECT_EQ(Row(*window), "(1+2)×3");
@@ -136,20 +91,16 @@ TEST_F(MainFrameWndTest, APressRepaintsItsCellAlone) {
     const QImage before = window->grab().toImage();
     const PanelCell cell{Panel::lower, KEY_7};
     const Rect rect = CellRect(Orientation::portrait, cell).Scaled(window->Scale());
-    Send(*window, QEvent::MouseButtonPress, QPointF(rect.left + 20, rect.top + 20));
+    testing::SendMouse(*window, QEvent::MouseButtonPress, QPointF(rect.left + 20, rect.top + 20));
     const QImage pressed = window->grab().toImage();
     int inside = 0;
     int outside = 0;
-    for (int y = 0; y < before.height(); ++y) {
-        for (int x = 0; x < before.width(); ++x) {
-            if (before.pixel(x, y) != pressed.pixel(x, y)) {
-                ++(rect.Contains({x, y}) ? inside : outside);
-            }
-        }
-    }
+    testing::ForEachPixel(before, [&](QRgb pixel, int x, int y) {
+        (rect.Contains({x, y}) ? inside : outside) += pixel != pressed.pixel(x, y);
+    });
     EXPECT_GT(inside, 1000);
     EXPECT_EQ(outside, 0);
-    Send(*window, QEvent::MouseButtonRelease, QPointF(rect.left + 20, rect.top + 20));
+    testing::SendMouse(*window, QEvent::MouseButtonRelease, QPointF(rect.left + 20, rect.top + 20));
     EXPECT_EQ(Row(*window), "7");
 }
 

@@ -2,17 +2,19 @@
 
 #include <algorithm>
 #include <cmath>
-#include <utility>
 
 #include "frontends/result_fit.h"
 #include "frontends/token_colors.h"
 #include "platform/qt/fonts.h"
 #include "platform/qt/pictures.h"
+#include "windows/pixels.h"
 #include "windows/screen_rig.h"
 
 namespace quorix {
 namespace {
 
+using testing::CountOf;
+using testing::ForEachPixel;
 using testing::KeepScreenshot;
 using testing::kLandscape2;
 using testing::kPortrait1;
@@ -27,16 +29,6 @@ QImage Part(const QImage& picture, const Rect& rect) {
     return picture.copy(PixelsOf(rect));
 }
 
-int CountOf(const QImage& picture, QRgb color) {
-    int count = 0;
-    for (int y = 0; y < picture.height(); ++y) {
-        for (int x = 0; x < picture.width(); ++x) {
-            count += (picture.pixel(x, y) & RGB_MASK) == (color & RGB_MASK);
-        }
-    }
-    return count;
-}
-
 /// Pixels that show some of a text colour: at least a third of the way from the display's background to it.
 int TintOf(const QImage& picture, QRgb color) {
     const QColor ground = QColor::fromRgb(display_colors::kBackground);
@@ -44,19 +36,16 @@ int TintOf(const QImage& picture, QRgb color) {
                        qBlue(color) - ground.blue()};
     const double length = way[0] * way[0] + way[1] * way[1] + way[2] * way[2];
     int count = 0;
-    for (int y = 0; y < picture.height(); ++y) {
-        for (int x = 0; x < picture.width(); ++x) {
-            const QRgb pixel = picture.pixel(x, y);
-            const int gone[] = {qRed(pixel) - ground.red(), qGreen(pixel) - ground.green(),
-                                qBlue(pixel) - ground.blue()};
-            const double part = (gone[0] * way[0] + gone[1] * way[1] + gone[2] * way[2]) / length;
-            double off = 0;
-            for (int i = 0; i < 3; ++i) {
-                off = std::max(off, std::abs(gone[i] - part * way[i]));
-            }
-            count += part > 0.33 && off < 24;
+    ForEachPixel(picture, [&](QRgb pixel, int, int) {
+        const int gone[] = {qRed(pixel) - ground.red(), qGreen(pixel) - ground.green(),
+                            qBlue(pixel) - ground.blue()};
+        const double part = (gone[0] * way[0] + gone[1] * way[1] + gone[2] * way[2]) / length;
+        double off = 0;
+        for (int i = 0; i < 3; ++i) {
+            off = std::max(off, std::abs(gone[i] - part * way[i]));
         }
-    }
+        count += part > 0.33 && off < 24;
+    });
     return count;
 }
 
@@ -70,35 +59,28 @@ Rect ResultBelowCursor(int scale) {
 /// The smallest rectangle round the pixels that are clearly not the background.
 QRect InkOf(const QImage& picture) {
     QRect ink;
-    for (int y = 0; y < picture.height(); ++y) {
-        for (int x = 0; x < picture.width(); ++x) {
-            if (qGray(picture.pixel(x, y)) < 160) {
-                ink |= QRect(x, y, 1, 1);
-            }
+    ForEachPixel(picture, [&](QRgb pixel, int x, int y) {
+        if (qGray(pixel) < 160) {
+            ink |= QRect(x, y, 1, 1);
         }
-    }
+    });
     return ink;
 }
 
-std::pair<int, int> GrayRange(const QImage& picture) {
-    std::pair<int, int> range{255, 0};
-    for (int y = 0; y < picture.height(); ++y) {
-        for (int x = 0; x < picture.width(); ++x) {
-            const int gray = qGray(picture.pixel(x, y));
-            range = {std::min(range.first, gray), std::max(range.second, gray)};
-        }
-    }
-    return range;
-}
+struct Grays {
+    int darkest = 255;
+    int lightest = 0;
+    double mean = 0;
+};
 
-double MeanGray(const QImage& picture) {
-    double sum = 0;
-    for (int y = 0; y < picture.height(); ++y) {
-        for (int x = 0; x < picture.width(); ++x) {
-            sum += qGray(picture.pixel(x, y));
-        }
-    }
-    return sum / picture.width() / picture.height();
+Grays GraysOf(const QImage& picture) {
+    Grays grays;
+    ForEachPixel(picture, [&](QRgb pixel, int, int) {
+        grays.darkest = std::min(grays.darkest, qGray(pixel));
+        grays.lightest = std::max(grays.lightest, qGray(pixel));
+        grays.mean += static_cast<double>(qGray(pixel)) / picture.width() / picture.height();
+    });
+    return grays;
 }
 
 TEST(Screens, ShowTheWholePanelsInEveryOrientationAndSkin) {
@@ -138,31 +120,9 @@ TEST(Screens, ShowTheWholePanelsInEveryOrientationAndSkin) {
                 // A label stands out in the middle of every key.
                 const QImage middle =
                     key.copy(key.width() / 6, key.height() / 6, key.width() * 2 / 3, key.height() * 2 / 3);
-                const auto [darkest, lightest] = GrayRange(middle);
-                EXPECT_GT(lightest - darkest, 80) << i;
+                const Grays grays = GraysOf(middle);
+                EXPECT_GT(grays.lightest - grays.darkest, 80) << i;
             }
-        }
-    }
-}
-
-TEST(Screens, KeepTheirKeysApartWhenZoomed) {
-    ScreenRig rig(kPortrait2);
-    rig.calculator.Type("1/3=");
-    const QImage plain = rig.Paint();
-    for (const double zoom : {1.5, 2.0}) {
-        const QImage picture = rig.Paint(zoom);
-        KeepScreenshot(picture, "zoom-" + std::to_string(static_cast<int>(zoom * 100)));
-        // A row of pixels between two rows of keys is body from edge to edge, and no key has a seam in its
-        // face.
-        const Rect seven = CellRect(Orientation::portrait, {Panel::lower, KEY_7}).Scaled(2);
-        const auto at = [&](int x, int y) {
-            return QPoint(static_cast<int>(x * zoom), static_cast<int>(y * zoom));
-        };
-        EXPECT_EQ(picture.pixel(at(seven.left, seven.top)), plain.pixel(seven.left, seven.top));
-        const int y = at(0, seven.top + 12).y();
-        for (int x = at(seven.left + 14, 0).x(); x < at(seven.right - 14, 0).x(); ++x) {
-            EXPECT_NEAR(qGray(picture.pixel(x, y)), qGray(plain.pixel(seven.left + 14, seven.top + 12)), 3)
-                << x;
         }
     }
 }
@@ -181,7 +141,7 @@ TEST(PanelPainter, APressedKeyIsSeenWithoutColour) {
             rig.looks.Press(cell);
             const QImage down = rig.Paint();
             const Rect place = CellRect(orientation, cell).Scaled(screen.Scale());
-            EXPECT_LT(MeanGray(Part(down, place)), MeanGray(Part(up, place)) * 0.96);
+            EXPECT_LT(GraysOf(Part(down, place)).mean, GraysOf(Part(up, place)).mean * 0.96);
             QImage rest = down;
             QPainter(&rest).drawImage(place.left, place.top, Part(up, place));
             EXPECT_EQ(rest, up);
@@ -250,18 +210,6 @@ TEST(LedPainter, AMarkIsDrawnInItsColourWithinItsRectangleWhenItsFlagIsOn) {
             }
         }
     }
-}
-
-TEST(LedPainter, TheCursorIsABarUnderItsToken) {
-    ScreenRig rig(kPortrait2);
-    rig.calculator.Type("12+345");
-    const Rect row = DisplayPartRect(DisplayPart::textRow, 2);
-    const Rect foot{row.left, row.bottom - 4, row.right, row.bottom};
-    EXPECT_EQ(CountOf(Part(rig.PaintDisplay(), foot), display_colors::kCursor), kCursorRoom * 2 * 4);
-
-    rig.calculator.Type("<");
-    const auto widths = rig.led.MeasureTokens(u"12+345", u"111111", 2);
-    EXPECT_EQ(CountOf(Part(rig.PaintDisplay(), foot), display_colors::kCursor), widths.back() * 4);
 }
 
 TEST(LedPainter, TokenWidthsAreThoseOfTheirSigns) {

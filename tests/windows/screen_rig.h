@@ -29,12 +29,11 @@ class ScreenRig {
         colours.LoadColours(skin.FindSkinValue("BoderColores"));
     }
 
-    /// zoom: as a window base paints on a wider desktop.
-    [[nodiscard]] QImage Paint(double zoom = 1.0) {
+    [[nodiscard]] QImage Paint() {
         const int scale = screen.Scale();
         const Orientation orientation = OrientationOf(screen);
         const FrameLayout& layout = LayoutOf(orientation);
-        const auto load = [&](const std::filesystem::path& file) { return LoadDense(file, scale, zoom); };
+        const auto load = [&](const std::filesystem::path& file) { return LoadDense(file, scale, 1.0); };
         const PanelPictures pictures{.smallButtons = load(skin.Path(SkinPath::smallButtons)),
                                      .smallFontsGeneral = load(skin.Path(SkinPath::smallFontsGeneral)),
                                      .largeButtons = load(skin.Path(SkinPath::largeButtons)),
@@ -44,10 +43,8 @@ class ScreenRig {
         const auto tex = ScreenValue("Resources\\TexButton.png", screen.IsVga());
         led.SetTexButton(load(ResolvePath(ExecutableFolder(), tex)));
         const Rect client = layout.client.Scaled(scale);
-        QImage picture(static_cast<int>(client.Width() * zoom), static_cast<int>(client.Height() * zoom),
-                       QImage::Format_RGB32);
+        QImage picture(client.Width(), client.Height(), QImage::Format_RGB32);
         QPainter painter(&picture);
-        painter.scale(zoom, zoom);
         PanelPainter::PaintBody(painter, client,
                                 {colours[SkinColour::border0], colours[SkinColour::border1],
                                  pictures.largeButtons.image.BackgroundColor()});

@@ -1,54 +1,21 @@
 #include <gtest/gtest.h>
 
 #include <QAccessible>
-#include <QApplication>
-#include <QCheckBox>
 #include <QComboBox>
-#include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QMouseEvent>
 #include <set>
 
-#include "platform/program_folder.h"
-#include "platform/utf8.h"
-#include "shell/main_frame_wnd.h"
 #include "shell/morvane_button_wnd.h"
 #include "shell/number_keyboard_wnd.h"
 #include "shell/preferences_dialog.h"
-#include "support/temporary_folder.h"
+#include "windows/frame_window.h"
 
 namespace quorix {
 namespace {
 
-using testing::TemporaryFolder;
-
-class ShellWndTest : public ::testing::Test {
+class ShellWndTest : public testing::FrameWindowTest {
   protected:
-    ShellWndTest() { SeedFolder(ExecutableFolder(), folder_.Path()); }
-
-    std::unique_ptr<MainFrameWnd> Open() {
-        auto window = std::make_unique<MainFrameWnd>(folder_.Path());
-        EXPECT_TRUE(window->Create());
-        window->show();
-        return window;
-    }
-    static void Press(MainFrameWnd& window, int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier,
-                      const QString& text = {}) {
-        QKeyEvent down(QEvent::KeyPress, key, modifiers, text);
-        QKeyEvent up(QEvent::KeyRelease, key, modifiers, text);
-        QApplication::sendEvent(&window, &down);
-        QApplication::sendEvent(&window, &up);
-    }
-    static void TypeText(MainFrameWnd& window, const QString& text) {
-        for (const QChar c : text) {
-            Press(window, 0, Qt::NoModifier, QString(c));
-        }
-    }
-    static std::string Row(MainFrameWnd& window) { return ToUtf8(window.Frame().Display().GetLine()); }
-    static std::string Result(MainFrameWnd& window) {
-        return ToUtf8(window.Frame().Display().GetResultText());
-    }
     static void CloseBoxes() {
         for (QWidget* const box : QApplication::topLevelWidgets()) {
             if (auto* const dialog = qobject_cast<QDialog*>(box)) {
@@ -57,8 +24,6 @@ class ShellWndTest : public ::testing::Test {
         }
         QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
-
-    TemporaryFolder folder_;
 };
 
 TEST_F(ShellWndTest, EveryKeyOfEveryPageHasANameAndCanBePressedInEveryShape) {
@@ -250,13 +215,7 @@ TEST_F(ShellWndTest, ListsKeepTheirArrowKeysAndTheLetterKeyboardTheFocus) {
     ASSERT_NE(letters, nullptr);
     name->setFocus();
     for (const int cell : {4, 5}) {
-        const QPointF at = letters->AccessibleCellRect(cell).center();
-        for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
-            QMouseEvent event(type, at, letters->mapToGlobal(at), Qt::LeftButton,
-                              type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton,
-                              Qt::NoModifier);
-            QApplication::sendEvent(letters, &event);
-        }
+        testing::Tap(*letters, letters->AccessibleCellRect(cell).center());
     }
     EXPECT_EQ(name->text(), QStringLiteral("ab"));
 }

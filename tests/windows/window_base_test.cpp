@@ -3,9 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QMouseEvent>
 #include <QPainter>
 #include <vector>
+
+#include "windows/pointer.h"
 
 namespace quorix {
 namespace {
@@ -31,12 +32,6 @@ class TestWindow : public WindowBase {
         Kill(id);
     }
 };
-
-void Press(QWidget& widget, QPointF at) {
-    QMouseEvent event(QEvent::MouseButtonPress, at, widget.mapToGlobal(at), Qt::LeftButton, Qt::LeftButton,
-                      {});
-    QApplication::sendEvent(&widget, &event);
-}
 
 TEST(WindowBase, MessagesReachTheirHandlerAndItsAnswerComesBack) {
     TestWindow window;
@@ -80,7 +75,7 @@ TEST(WindowBase, ZoomWidensThePlacesAndNarrowsThePen) {
     EXPECT_EQ(child.geometry(), QRect(17, 8, 33, 22));
     EXPECT_EQ(window.ChildWindow(1234), &child);
     EXPECT_EQ(window.ChildWindow(1), nullptr);
-    Press(window, {149, 74});
+    testing::SendMouse(window, QEvent::MouseButtonPress, {149, 74});
     ASSERT_EQ(window.downs.size(), 1U);
     EXPECT_EQ(window.downs[0], (Point{99, 49}));
     window.SetScale(1);
