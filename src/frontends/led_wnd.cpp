@@ -23,8 +23,8 @@ constexpr int kStillRadius = 6;
 }  // namespace
 
 LedWnd::LedWnd(WindowBase* parent) : WindowBase(parent, kLedWindowId) {
-    setAccessibleName(QStringLiteral("display"));
     MakeSpokenLinesAccessible();
+    setAccessibleName(QStringLiteral("display"));
 }
 
 void LedWnd::SetDisplay(CLedDisplay* display, int holdInterval) {

@@ -37,11 +37,11 @@ MorvaneCalEditWnd::MorvaneCalEditWnd(WindowBase* parent, int childId, const Calc
                                      std::function<void()> useInArithmetic)
     : WindowBase(parent, childId),
       edit_(settings, {.invalidate = [this] { Changed(); }, .useInArithmetic = std::move(useInArithmetic)}) {
+    MakeSpokenLinesAccessible();
     // The number pad types only into windows that call themselves an edit.
     setWindowTitle(QStringLiteral("MorvaneCalEdit"));
     setAccessibleName(QStringLiteral("expression"));
     setFocusPolicy(Qt::StrongFocus);
-    MakeSpokenLinesAccessible();
 }
 
 QString MorvaneCalEditWnd::SpokenText() const {

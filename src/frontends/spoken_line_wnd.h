@@ -16,7 +16,8 @@ class SpokenLine {
     [[nodiscard]] virtual bool IsEditable() const = 0;
 };
 
-/// Makes windows that are SpokenLine an accessible text; once is enough, more does no harm.
+/// Makes windows that are SpokenLine an accessible text; once is enough, more does no harm. Call it before
+/// the window gets a name or title, as MakeCellsAccessible.
 void MakeSpokenLinesAccessible();
 /// The text of the window has changed.
 void AnnounceText(QWidget& window, const QString& text);

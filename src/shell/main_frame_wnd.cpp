@@ -30,11 +30,11 @@ MainFrameWnd::MainFrameWnd(const std::filesystem::path& programFolder, SoundPlay
       skin_(programFolder, view_.Screen()),
       sound_(sound),
       helpViewer_(helpViewer) {
+    MakeCellsAccessible();
     setWindowTitle(QStringLiteral("Quorix"));
     setFocusPolicy(Qt::StrongFocus);
     setAccessibleName(windowTitle());
     StandAlone();
-    MakeCellsAccessible();
 }
 
 MainFrameWnd::~MainFrameWnd() = default;

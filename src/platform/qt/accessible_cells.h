@@ -23,7 +23,8 @@ class CellSource {
 };
 
 /// Makes windows that are CellSource accessible with their parts behind their child windows; once is enough,
-/// more does no harm.
+/// more does no harm. Call it before the window gets a name or title: Qt tells assistive programs of that,
+/// and keeps what it then finds.
 void MakeCellsAccessible();
 
 /// Presses the part of this name; false when there is none.
