@@ -62,6 +62,7 @@ bool RangeProgram::AppendOperator(const OperatorRow<DComplex>& row) {
 std::optional<ValueRange> RangeProgram::Over(const ValueRange& x) const {
     std::array<ValueRange, kDepth> stack;
     std::size_t depth = 0;
+    bool leavesReals = false;
     for (const Instruction& at : instructions_) {
         if (at.function == nullptr && at.operation == nullptr) {
             stack[depth++] = at.isBoundVariable ? x : at.constant;
@@ -71,10 +72,15 @@ std::optional<ValueRange> RangeProgram::Over(const ValueRange& x) const {
         ValueRange& last = stack[depth - 1];
         const std::optional<ValueRange> result =
             at.function != nullptr ? at.function(last) : at.operation(last, stack[depth]);
-        if (!result) return std::nullopt;
+        // Where an operand may be unbounded, that matters more than that some of its values fail.
+        const bool isBounded = last.IsBounded() && (at.operation == nullptr || stack[depth].IsBounded());
+        if (!result && isBounded) return std::nullopt;
+        leavesReals = leavesReals || !result;
         // An endpoint that is no number says nothing.
-        last = std::isnan(result->least) || std::isnan(result->greatest) ? ValueRange{} : *result;
+        const bool isTold = result && !std::isnan(result->least) && !std::isnan(result->greatest);
+        last = isTold ? *result : ValueRange{};
     }
+    if (leavesReals && stack[0].IsBounded()) return std::nullopt;
     return stack[0];
 }
 

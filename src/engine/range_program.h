@@ -18,7 +18,8 @@ class RangeProgram {
     void Build(const DoubleExpression& expression);
     [[nodiscard]] bool IsUsable() const { return !instructions_.empty(); }
     /// Holds all values over the range, or more: the wider the range, the more. Unbounded when a pole may lie
-    /// in it. Nothing where some values are not reached by real arithmetic alone. The program must be usable.
+    /// in it. Nothing where some values are not reached by real arithmetic alone, unless it is for a pole
+    /// inside the expression. The program must be usable.
     [[nodiscard]] std::optional<ValueRange> Over(const ValueRange& x) const;
 
   private:

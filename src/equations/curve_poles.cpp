@@ -207,23 +207,36 @@ class RangeSearch {
     // A logarithm grows by the same with each distance, powers by more; what is smooth by a tenth or less.
     static constexpr double kKeptGrowth = 0.25;
 
+    using Heights = std::array<double, kDistances.size()>;
+
     // Sums and differences of the values on both sides, so that neither hides the other and slopes do not
-    // count.
+    // count; those of one side alone where the function fails on the other.
     bool GrowsTowards(double place) {
-        std::array<double, kDistances.size()> sums{};
-        std::array<double, kDistances.size()> differences{};
-        for (std::size_t i = 0; i < kDistances.size(); ++i) {
-            const std::optional<double> before = function_.At(place - kDistances[i]);
-            const std::optional<double> behind = function_.At(place + kDistances[i]);
-            if (!before || !behind) return false;
-            if (!std::isfinite(*before) || !std::isfinite(*behind)) return true;
-            sums[i] = *behind + *before;
-            differences[i] = *behind - *before;
+        const std::optional<Heights> before = HeightsFrom(place, -1.0);
+        const std::optional<Heights> behind = HeightsFrom(place, 1.0);
+        if (!before && !behind) return false;
+        Heights sums = behind.value_or(Heights{});
+        Heights differences = sums;
+        for (std::size_t i = 0; before && i < sums.size(); ++i) {
+            sums[i] += (*before)[i];
+            differences[i] -= (*before)[i];
         }
-        return Grows(sums) || Grows(differences);
+        const auto isInfinite = [](double height) { return !std::isfinite(height); };
+        return std::ranges::any_of(sums, isInfinite) || Grows(sums) || Grows(differences);
     }
 
-    static bool Grows(const std::array<double, kDistances.size()>& heights) {
+    // Nothing when the function fails at one of the distances.
+    std::optional<Heights> HeightsFrom(double place, double side) {
+        Heights heights{};
+        for (std::size_t i = 0; i < heights.size(); ++i) {
+            const std::optional<double> y = function_.At(place + side * kDistances[i]);
+            if (!y) return std::nullopt;
+            heights[i] = *y;
+        }
+        return heights;
+    }
+
+    static bool Grows(const Heights& heights) {
         const double early = std::fabs(heights[1] - heights[0]);
         const double late = std::fabs(heights[2] - heights[1]);
         return late > kLeastGrowth && late >= kKeptGrowth * early;

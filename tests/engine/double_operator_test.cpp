@@ -471,8 +471,9 @@ TEST_F(DoubleOperatorTest, BlocksGiveWhatPointsGiveAndRangesHoldIt) {
             }
             // The logarithm of a negative zero is infinite and complex.
             if (!range || !value || !std::isfinite(value->re)) continue;
+            if (!range->IsBounded()) continue;
             ASSERT_TRUE(value->im == 0.0 && range->Contains(value->re)) << Narrow(text) << " at " << x[i];
-            if (range->IsBounded()) ++inRanges;
+            ++inRanges;
         }
     }
     EXPECT_GT(inBlocks, 100000);

@@ -179,6 +179,7 @@ TEST_F(CurveSamplingTest, NoLineCrossesAPole) {
                 {u"(x^2-1)/(x^2-3*x+2)", 2},
                 {u"7+csch(x)-atan(1/x)", 0},
                 {u"4 root(abs(x))*x^(0-1)", 0},
+                {u"sqrt(3-0.01/(x-1))", 1},
                 {u"1/(x mod 7)+1/(x-1)", 1}};
     for (const auto& row : rows) {
         // Close to the ends, where there is no slope yet.
