@@ -1,7 +1,5 @@
 // Feeds bytes as "Converter.dat". What was read is written and must read the same.
 
-#include <unistd.h>
-
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
@@ -9,23 +7,11 @@
 
 #include "platform/files.h"
 #include "reference/converter_state.h"
-
-namespace {
-
-const std::filesystem::path& Folder() {
-    static const std::filesystem::path folder = [] {
-        auto path = std::filesystem::temp_directory_path() / ("quorix-fuzz-" + std::to_string(::getpid()));
-        std::filesystem::create_directories(path);
-        return path;
-    }();
-    return folder;
-}
-
-}  // namespace
+#include "scratch_folder.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace quorix;
-    const std::filesystem::path path = Folder() / "Converter.dat";
+    const std::filesystem::path path = ScratchFolder() / "Converter.dat";
     if (!WriteFileAtomically(path, {data, size})) {
         return 0;
     }

@@ -1,8 +1,6 @@
 // Feeds bytes as each of the text data files: every operation of the reader, the unit table with conversions
 // among its first units, and the file of rates written and read again.
 
-#include <unistd.h>
-
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
@@ -14,19 +12,11 @@
 #include "reference/data_file_reader.h"
 #include "reference/unit_table.h"
 #include "reference/update_settings.h"
+#include "scratch_folder.h"
 
 namespace {
 
 using namespace quorix;
-
-const std::filesystem::path& Folder() {
-    static const std::filesystem::path folder = [] {
-        auto path = std::filesystem::temp_directory_path() / ("quorix-fuzz-" + std::to_string(::getpid()));
-        std::filesystem::create_directories(path);
-        return path;
-    }();
-    return folder;
-}
 
 void ReadAll(const std::filesystem::path& path) {
     DataFileReader reader(path);
@@ -74,7 +64,7 @@ void SaveAndLoad(const UnitTable& table, const std::filesystem::path& path) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    const std::filesystem::path path = Folder() / "data.dat";
+    const std::filesystem::path path = ScratchFolder() / "data.dat";
     if (!WriteFileAtomically(path, {data, size})) {
         return 0;
     }

@@ -1,8 +1,6 @@
 // Feeds bytes as the state files. The first byte picks the file. What was read is written and must read the
 // same.
 
-#include <unistd.h>
-
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
@@ -11,20 +9,12 @@
 #include "frontends/display_file.h"
 #include "frontends/led_display.h"
 #include "platform/files.h"
+#include "scratch_folder.h"
 #include "shell/preferences.h"
 
 namespace {
 
 using namespace quorix;
-
-const std::filesystem::path& Folder() {
-    static const std::filesystem::path folder = [] {
-        auto path = std::filesystem::temp_directory_path() / ("quorix-fuzz-" + std::to_string(::getpid()));
-        std::filesystem::create_directories(path);
-        return path;
-    }();
-    return folder;
-}
 
 void FuzzDisplay(const std::filesystem::path& path) {
     const CalculatorSettings settings;
@@ -67,7 +57,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (size == 0) {
         return 0;
     }
-    const std::filesystem::path path = Folder() / "state.dat";
+    const std::filesystem::path path = ScratchFolder() / "state.dat";
     if (!WriteFileAtomically(path, {data + 1, size - 1})) {
         return 0;
     }

@@ -1,8 +1,6 @@
 // Feeds bytes as the files of the biorhythm. The first byte picks the file. Persons that were read are
 // written and must read the same; of advice a report is made.
 
-#include <unistd.h>
-
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
@@ -10,6 +8,7 @@
 
 #include "platform/clock.h"
 #include "platform/files.h"
+#include "scratch_folder.h"
 #include "tools/biorhythm.h"
 #include "tools/date_order.h"
 #include "tools/persons.h"
@@ -19,12 +18,7 @@ namespace {
 using namespace quorix;
 
 const std::filesystem::path& PersonsPath() {
-    static const std::filesystem::path path = [] {
-        auto folder =
-            std::filesystem::temp_directory_path() / ("quorix-fuzz-tools-" + std::to_string(::getpid()));
-        std::filesystem::create_directories(folder);
-        return folder / "persons.dat";
-    }();
+    static const std::filesystem::path path = ScratchFolder() / "persons.dat";
     return path;
 }
 

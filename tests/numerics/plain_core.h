@@ -1,8 +1,7 @@
 #pragma once
 
 // The arithmetic core word by word, as its rules read: the oracle that the core on limbs equals bit for bit.
-// Reports go through quorix::mtherr. One source file, however long, so that a test or a fuzzer takes it in
-// whole.
+// Reports go through quorix::mtherr. Arithmetic and decimal text have a source file each.
 
 #include <cstdint>
 #include <string>

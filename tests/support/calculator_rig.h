@@ -12,16 +12,9 @@
 #include "frontends/key_codes.h"
 #include "frontends/led_display.h"
 #include "platform/utf8.h"
+#include "support/fake_timers.h"
 
 namespace quorix::testing {
-
-/// Timers that only remember what runs; the test fires them by hand.
-class FakeTimers : public Timers {
-  public:
-    void Set(int id, int milliseconds) override { running[id] = milliseconds; }
-    void Kill(int id) override { running.erase(id); }
-    std::map<int, int> running;
-};
 
 class CalculatorRig {
   public:

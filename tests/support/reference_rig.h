@@ -2,23 +2,16 @@
 
 // A converter in a folder of its own, with doubles of its ports.
 
-#include <map>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "platform/utf8.h"
 #include "reference/converter.h"
+#include "support/fake_timers.h"
 #include "support/temporary_folder.h"
 
 namespace quorix::testing {
-
-class FakeTimers : public Timers {
-  public:
-    void Set(int id, int milliseconds) override { running[id] = milliseconds; }
-    void Kill(int id) override { running.erase(id); }
-    std::map<int, int> running;
-};
 
 /// Answers in the order of `answers`; the last one stays. An empty list is no connection.
 class FakeHttp : public HttpClient {
