@@ -51,7 +51,7 @@ std::optional<DComplex> Walk(DoubleWorkspace& workspace, double boundValue) {
 bool HasFastLane(DoubleWorkspace& workspace) {
     if (workspace.realVersion != workspace.expression.Version()) {
         workspace.realVersion = workspace.expression.Version();
-        workspace.real.Build(workspace.expression);
+        workspace.real.Build(RealSteps(workspace.expression));
     }
     return workspace.real.IsUsable();
 }
@@ -88,7 +88,7 @@ DoubleSampler::DoubleSampler(std::u16string_view text, std::u16string_view bound
     : workspace_(std::make_unique<Workspace>()) {
     workspace_->isCompiled = calcContext().calcError == 0 &&
                              workspace_->expression.Prepare(text, boundName, radix, DoubleOperatorTable());
-    if (workspace_->isCompiled) workspace_->ranges.Build(workspace_->expression);
+    if (workspace_->isCompiled) workspace_->ranges.Build(RealSteps(workspace_->expression));
 }
 
 DoubleSampler::~DoubleSampler() = default;

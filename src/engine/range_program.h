@@ -2,20 +2,19 @@
 
 // An expression over a range of its bound variable instead of at a point (interval arithmetic).
 
-#include <cstdint>
 #include <optional>
+#include <span>
 #include <vector>
 
 #include "engine/range_operators.h"
-#include "engine/real_program.h"
+#include "engine/real_steps.h"
 
 namespace quorix {
 
 class RangeProgram {
   public:
-    /// An expression that fails by its form, or has an operator whose ranges are not known, gives an unusable
-    /// program.
-    void Build(const DoubleExpression& expression);
+    /// Of no steps, or with an operator whose ranges are not known, the program is unusable.
+    void Build(std::span<const RealStep> steps);
     [[nodiscard]] bool IsUsable() const { return !instructions_.empty(); }
     /// Holds all values over the range, or more: the wider the range, the more. Unbounded when a pole may lie
     /// in it. Nothing where some values are not reached by real arithmetic alone, unless it is for a pole
@@ -31,13 +30,7 @@ class RangeProgram {
         RangeOperation operation = nullptr;
     };
 
-    bool Append(const ResolvedToken<DComplex>& token, const DoubleExpression& expression);
-    bool AppendOperator(const OperatorRow<DComplex>& row);
-    bool AppendOperand(const Instruction& instruction);
-
     std::vector<Instruction> instructions_;
-    std::int32_t depth_ = 0;
-    BaseStack bases_;
 };
 
 }  // namespace quorix

@@ -2,18 +2,13 @@
 
 #include <algorithm>
 #include <array>
-#include <numbers>
 #include <type_traits>
 
 #include "engine/double_arithmetic_operators.h"
 #include "engine/double_power_operators.h"
-#include "engine/number_grammar.h"
 
 namespace quorix {
 namespace {
-
-// Deeper expressions take the complex way.
-constexpr std::int32_t kLaneDepth = 64;
 
 using Instruction = RealProgram::Instruction;
 using Handlers = RealProgram::Handlers;
@@ -170,54 +165,20 @@ RealFunction WholePower(double exponent) {
 
 }  // namespace
 
-DoubleNumber DoubleNumber::FromText(std::u16string_view text) {
-    return {NumberToDouble(text)};
-}
-
-void RealProgram::Build(const DoubleExpression& expression) {
+void RealProgram::Build(std::span<const RealStep> steps) {
     instructions_.clear();
     lastOperator_ = {};
-    depth_ = 0;
     pushed_ = Pushed::nothing;
-    bases_.Clear();
-    if (AppendAll(expression) && depth_ == 1) {
-        instructions_.push_back({kFinish});
-    } else {
-        instructions_.clear();
+    for (const RealStep& step : steps) {
+        switch (step.kind) {
+            case RealStepKind::boundVariable: AppendPush(Pushed::boundVariable, 0.0); break;
+            case RealStepKind::constant: AppendPush(Pushed::constant, step.constant); break;
+            case RealStepKind::ofOne: AppendFunction(step.row->realOfOne); break;
+            case RealStepKind::ofTwo: AppendBinary(step.row->realOfTwo); break;
+        }
+        if (step.row != nullptr) lastOperator_ = step.row->name;
     }
-}
-
-bool RealProgram::AppendAll(const DoubleExpression& expression) {
-    return std::ranges::all_of(expression.Tokens(),
-                               [&](const auto& token) { return Append(token, expression); });
-}
-
-bool RealProgram::Append(const ResolvedToken<DComplex>& token, const DoubleExpression& expression) {
-    switch (token.kind) {
-        case ResolvedKind::operation: return AppendOperation(*token.row);
-        case ResolvedKind::open:
-            return bases_.Depth() < static_cast<std::size_t>(kLaneDepth) && bases_.Open(depth_);
-        case ResolvedKind::close: bases_.Close(); return true;
-        case ResolvedKind::number:
-            return AppendPush(Pushed::constant, expression.NumberAt(token.index).value);
-        case ResolvedKind::bound: return AppendPush(Pushed::boundVariable, 0.0);
-        case ResolvedKind::pi: return AppendPush(Pushed::constant, std::numbers::pi);
-        case ResolvedKind::e: return AppendPush(Pushed::constant, std::numbers::e);
-        default: return false;
-    }
-}
-
-bool RealProgram::AppendOperation(const OperatorRow<DComplex>& row) {
-    const std::int32_t available = depth_ - bases_.Innermost();
-    if (row.realOfTwo != nullptr && available >= 2) {
-        AppendBinary(row.realOfTwo);
-    } else if (row.realOfOne != nullptr && available >= 1) {
-        AppendFunction(row.realOfOne);
-    } else {
-        return false;
-    }
-    lastOperator_ = row.name;
-    return true;
+    if (!steps.empty()) instructions_.push_back({kFinish});
 }
 
 void RealProgram::AppendFunction(RealFunction function) {
@@ -234,7 +195,6 @@ void RealProgram::AppendFunction(RealFunction function) {
 }
 
 void RealProgram::AppendBinary(RealOperation operation) {
-    --depth_;
     if (operation == RealPower && pushed_ == Pushed::constant) {
         if (const RealFunction power = WholePower(instructions_.back().constant)) {
             instructions_.pop_back();
@@ -255,23 +215,20 @@ void RealProgram::AppendBinary(RealOperation operation) {
     pushed_ = Pushed::nothing;
 }
 
-bool RealProgram::AppendPush(Pushed pushed, double constant) {
-    if (depth_ >= kLaneDepth) return false;
+void RealProgram::AppendPush(Pushed pushed, double constant) {
     instructions_.push_back({pushed == Pushed::constant ? kPushConstant : kPushBound, constant});
     pushed_ = pushed;
-    ++depth_;
-    return true;
 }
 
 double RealProgram::Run(double x) const {
-    std::array<double, kLaneDepth + 2> stack;
+    std::array<double, kRealDepth + 2> stack;
     const Instruction* first = instructions_.data();
     return first->handlers.one(first, stack.data(), 0.0, x);
 }
 
 // The columns lie one behind the other; the first is never used.
 void RealProgram::RunBlock(std::span<const double> x, std::span<double> y) const {
-    std::array<double, (kLaneDepth + 1) * kBlock> columns;
+    std::array<double, (kRealDepth + 1) * kBlock> columns;
     double* last = columns.data();
     for (const Instruction* at = instructions_.data(); at->handlers.block != nullptr; ++at) {
         last = at->handlers.block(*at, last, x.data(), x.size());

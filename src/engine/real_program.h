@@ -9,18 +9,9 @@
 #include <span>
 #include <vector>
 
-#include "engine/compiled_expression.h"
-#include "numerics/qreal.h"
+#include "engine/real_steps.h"
 
 namespace quorix {
-
-struct DoubleNumber {
-    double value = 0.0;
-
-    static DoubleNumber FromText(std::u16string_view text);
-};
-
-using DoubleExpression = CompiledExpression<DComplex, DoubleNumber>;
 
 class RealProgram {
   public:
@@ -45,10 +36,8 @@ class RealProgram {
         RealOperation operation = nullptr;
     };
 
-    /// Operand counts follow from the tokens alone, so that each operator's place on the stack is settled
-    /// here. An expression that fails by its form, leaves more than its result, or has an operator without a
-    /// real form gives an unusable program.
-    void Build(const DoubleExpression& expression);
+    /// Of no steps the program is unusable.
+    void Build(std::span<const RealStep> steps);
     [[nodiscard]] bool IsUsable() const { return !instructions_.empty(); }
     /// Value at x; not a number when the lane must be left. The program must be usable.
     [[nodiscard]] double Run(double x) const;
@@ -61,18 +50,13 @@ class RealProgram {
     /// What the last instruction pushes; an operator that follows takes it over.
     enum class Pushed : std::uint8_t { nothing, boundVariable, constant };
 
-    bool AppendAll(const DoubleExpression& expression);
-    bool Append(const ResolvedToken<DComplex>& token, const DoubleExpression& expression);
-    bool AppendOperation(const OperatorRow<DComplex>& row);
+    void AppendPush(Pushed pushed, double constant);
     void AppendFunction(RealFunction function);
     void AppendBinary(RealOperation operation);
-    bool AppendPush(Pushed pushed, double constant);
 
     std::vector<Instruction> instructions_;
     std::u16string_view lastOperator_;
-    std::int32_t depth_ = 0;
     Pushed pushed_ = Pushed::nothing;
-    BaseStack bases_;
 };
 
 }  // namespace quorix
